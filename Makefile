@@ -1,0 +1,43 @@
+# What people type. CMakePresets.json says how things are built, scripts/install-packages what must be there.
+
+BUILD := build/release
+VEXA := $(BUILD)/bin/vexa
+
+.PHONY: help packages demo test bench format clean
+
+help:
+	@echo "make demo    build, and draw every example into out/"
+	@echo "make test    build, and run all tests"
+	@echo "make bench   build, and run the benchmarks"
+	@echo "make format  format all C++ sources"
+	@echo "make clean   remove build/ and out/"
+
+demo: $(BUILD)/build.ninja
+	cmake --build --preset release --target vexa_cli
+	$(VEXA) render examples/*.xml --out-dir out --to svg
+	$(VEXA) render examples/*.xml --out-dir out --to json
+	@echo "The pictures are in out/"
+
+test: $(BUILD)/build.ninja
+	cmake --build --preset release
+	ctest --preset release -j "$$(nproc)"
+
+bench: $(BUILD)/build.ninja
+	cmake --build --preset release
+	$(BUILD)/bench/vexa_bench
+	bench/process.sh $(BUILD)
+
+format:
+	scripts/install-packages lint
+	scripts/cxx-sources -z | xargs -0 clang-format -i
+
+clean:
+	rm -rf build out
+
+packages:
+	@scripts/install-packages build test
+
+# The packages are looked at each time, which takes a moment; ninja configures again by itself when a list changes.
+$(BUILD)/build.ninja: CMakePresets.json | packages
+	cmake --preset release
+	@touch $@

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace VEXA::Bench {
+
+/// The bytes of examples/NAME.xml. Ends the program with a message when it cannot be read.
+std::string example(const std::string& name);
+
+/// A radar chart with so many axes and series, a value on each.
+std::string radarChart(int axes, int series);
+
+}  // namespace VEXA::Bench

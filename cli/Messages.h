@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "vexa/support/core/Log.h"
+
+namespace VEXA::Cli {
+
+/// What a file is called in messages: its name, or `<stdin>` or `<stdout>` for "-".
+std::string inputName(const std::string& file);
+std::string outputName(const std::string& file);
+
+/// `file:line:column: warning: text` with a line feed; without the place when it is not known. Control characters in it
+/// are shown as escapes, so that a message is one line and cannot steer a terminal.
+std::string messageLine(std::string_view file, SourcePlace place, Severity severity, std::string_view text);
+
+/// Collects the messages about one document, so that those of documents drawn at the same time do not mix. Errors that
+/// reach the log are left out: they are thrown as well, and whoever catches them tells them.
+class MessageCollector final : public LogSink {
+public:
+    explicit MessageCollector(std::string file) : file_(std::move(file)) {}
+
+    void write(const LogRecord& record) override;
+    void addError(SourcePlace place, std::string_view text);
+    /// An error about another file than the document.
+    void addError(std::string_view file, std::string_view text);
+
+    std::string takeLines() noexcept { return std::move(lines_); }
+
+private:
+    std::string file_;
+    std::string lines_;
+};
+
+}  // namespace VEXA::Cli

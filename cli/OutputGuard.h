@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace VEXA::Cli {
+
+struct RenderJob;
+
+/// A sentence that names the two when two jobs would write the same file, or a job would write over a document that is
+/// read, under whatever name (links are followed); else empty.
+std::string outputProblem(const std::vector<RenderJob>& jobs);
+
+}  // namespace VEXA::Cli

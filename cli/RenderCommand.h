@@ -1,0 +1,14 @@
+#pragma once
+
+#include "cli/Console.h"
+#include "cli/DocumentRenderer.h"
+#include "cli/ExitStatus.h"
+#include "cli/RenderOptions.h"
+
+namespace VEXA::Cli {
+
+/// `vexa render`: draws every document of the options. Warnings and errors go to the console in the order of the
+/// inputs. A document that fails does not stop the others.
+ExitStatus render(const RenderOptions& options, const Painter& paint, Console& console);
+
+}  // namespace VEXA::Cli

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/OutputFormat.h"
+#include "cli/RenderOptions.h"
+
+namespace VEXA::Cli {
+
+/// One document to draw. "-" names a standard stream.
+struct RenderJob {
+    std::string input;
+    std::string output;
+    OutputFormat format = OutputFormat::Svg;
+};
+
+/// What a command line asks for: the jobs in the order of the inputs, or what is wrong with it.
+struct RenderPlan {
+    std::vector<RenderJob> jobs;
+    std::string problem;  ///< one sentence for the user; empty when the plan can be carried out
+};
+
+/// Decides the output file and the format of every input. Refuses a plan in which two documents would write one file,
+/// or a picture would replace a document that is read. Looks at files, writes none.
+RenderPlan planRender(const RenderOptions& options);
+
+}  // namespace VEXA::Cli

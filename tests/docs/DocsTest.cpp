@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/wait.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kSource = VEXA_SOURCE_DIR;
+
+std::string contentOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<fs::path> pages() {
+    std::vector<fs::path> found;
+    for (const fs::path& directory : {kSource, kSource / "docs"}) {
+        for (const auto& entry : fs::directory_iterator(directory)) {
+            if (entry.path().extension() == ".md") found.push_back(entry.path());
+        }
+    }
+    return found;
+}
+
+struct Found {
+    std::string text;
+    std::size_t end;  ///< the position behind it
+};
+
+/// Every text of one line that stands between two marks.
+std::vector<Found> textsBetween(const std::string& page, const std::string& open, const std::string& close) {
+    std::vector<Found> found;
+    for (std::size_t at = page.find(open); at != std::string::npos; at = page.find(open, at + 1)) {
+        const std::size_t start = at + open.size();
+        const std::size_t end = page.find(close, start);
+        const std::string text = page.substr(start, end - start);
+        if (end != std::string::npos && text.find('\n') == std::string::npos) found.push_back({text, end});
+    }
+    return found;
+}
+
+/// The lines of the fenced block that follows `from`.
+std::string blockAfter(const std::string& page, std::size_t from) {
+    const std::size_t fence = page.find("```", from);
+    if (fence == std::string::npos) return {};
+    const std::size_t start = page.find('\n', fence) + 1;
+    return page.substr(start, page.find("```", start) - start);
+}
+
+/// Runs a command of the shell; what it writes to standard output, or how it failed.
+std::string outputOf(const std::string& command) {
+    std::FILE* pipe = ::popen(command.c_str(), "r");
+    std::string text;
+    char buffer[4096];
+    for (std::size_t n = std::fread(buffer, 1, sizeof buffer, pipe); n > 0;
+         n = std::fread(buffer, 1, sizeof buffer, pipe)) {
+        text.append(buffer, n);
+    }
+    const int status = ::pclose(pipe);
+    return status == 0 ? text : text + "exit status " + std::to_string(WEXITSTATUS(status));
+}
+
+TEST(Docs, PagesShowTheFilesTheyName) {
+    std::set<std::string> shown;
+    for (const fs::path& path : pages()) {
+        const std::string page = contentOf(path);
+        for (const auto& [name, end] : textsBetween(page, "<!-- file: ", " -->")) {
+            shown.insert(name);
+            EXPECT_EQ(blockAfter(page, end), contentOf(kSource / name))
+                << path << " differs from " << name << "; scripts/update-docs renews the pages";
+        }
+    }
+    for (const auto& entry : fs::recursive_directory_iterator(kSource / "docs/examples")) {
+        if (!entry.is_regular_file()) continue;
+        const std::string name = fs::relative(entry.path(), kSource).string();
+        EXPECT_TRUE(shown.contains(name)) << name << " is shown by no page";
+    }
+}
+
+TEST(Docs, LinksLeadSomewhere) {
+    std::size_t count = 0;
+    for (const fs::path& path : pages()) {
+        for (const Found& link : textsBetween(contentOf(path), "](", ")")) {
+            if (link.text.find(':') != std::string::npos) continue;  // an address outside
+            EXPECT_TRUE(fs::exists(path.parent_path() / link.text)) << path << " links to " << link.text;
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 5U);
+}
+
+TEST(Docs, TheChartAndTheProgramOfTheReadmeMakeAPicture) {
+    const fs::path picture = fs::path(VEXA_TEST_OUTPUT) / "espresso.svg";
+    fs::remove(picture);
+    EXPECT_EQ(outputOf(VEXA_DRAW_CHART " " VEXA_SOURCE_DIR "/docs/examples/espresso.xml " + picture.string() + " 2>&1"),
+              "");
+    const std::string svg = contentOf(picture);
+    for (const char* word : {"<svg", "House blend", "Sweetness", "#b5652b", "</svg>"}) {
+        EXPECT_NE(svg.find(word), std::string::npos) << word;
+    }
+}
+
+TEST(Docs, TheProgramOfTheReadmeTellsTheLineOfAnError) {
+    const fs::path chart = fs::path(VEXA_TEST_OUTPUT) / "broken.xml";
+    std::ofstream(chart) << "<root xmlns='http://vexa-charts.org/2008/vx'\n>\n<title</root>";
+    const std::string told = outputOf(VEXA_DRAW_CHART " " + chart.string() + " /dev/null 2>&1");
+    EXPECT_EQ(told.rfind("line 3: ", 0), 0U) << told;
+    EXPECT_NE(told.find("exit status 1"), std::string::npos) << told;
+}
+
+// A page of 96 x 48 px is an inch wide and half an inch high: 1016 and 508 units of a plotter. The text starts at the
+// left edge of its box, a quarter of an inch from the left.
+TEST(Docs, TheCustomSurfaceDrawsOutlinesWithThePen) {
+    const fs::path chart = fs::path(VEXA_TEST_OUTPUT) / "framed.xml";
+    std::ofstream(chart) << "<root xmlns='http://vexa-charts.org/2008/vx' width='96px' height='48px' theme='none' "
+                            "stroke='black'><title x='24px' width='72px' height='48px' value='Ink'/></root>";
+    const std::string commands = outputOf(VEXA_PLOTTER_SURFACE " " + chart.string());
+    EXPECT_EQ(commands.rfind("IN;SP1;\nPU0,508;PD1016,508;PD1016,0;PD0,0;PD0,508;\n", 0), 0U) << commands;
+    EXPECT_NE(commands.find("\nPU254,"), std::string::npos) << commands;
+    EXPECT_NE(commands.find(";LBInk\x03;\nPU;PG;\n"), std::string::npos) << commands;
+}
+
+}  // namespace

@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include "tests/engine/EngineTestTools.h"
+#include "vexa/surfaces/NullSurface.h"
+
+namespace VEXA {
+namespace {
+
+using namespace Testing;
+
+/// A radar chart that gives nearly every attribute it may have, in one line.
+const std::string kChart =
+    R"x(<vx:root xmlns:vx="http://vexa-charts.org/2008/vx" x="1" y="2" width="90%" height="300" viewBox="0 0 90 60" )x"
+    R"x(theme="red-flat" fill="url(#g)" font-size="10%"><vx:title x="1" y="2" width="30%" height="9" value="A b c" )x"
+    R"x(value-color="#123"/><vx:spider x="3" y="4" width="80%" height="40" unit-frequency="7" web-stroke="url(#h)" )x"
+    R"x(web-stroke-opacity="50%" web-stroke-width="2pt" web-stroke-miterlimit="3" web-stroke-dasharray="3 1" )x"
+    R"x(web-stroke-dashoffset="1"><vx:spider-axis id="a" min="-5" max="50" caption="A" caption-offset="3" )x"
+    R"x(stroke="red"/><vx:spider-axis id="b" min="1" max="9"/><vx:spider-serie stroke-width="3" fill="none" )x"
+    R"x(opacity="0.5"><vx:spider-data-point axis-id="a" value="7"/></vx:spider-serie></vx:spider><vx:defs>)x"
+    R"x(<vx:linear-gradient id="g" x1="0" y1="1" x2="2" y2="3" gradientTransform="rotate(4)"><vx:stop offset="5%" )x"
+    R"x(stop-color="red" stop-opacity="0.5"/></vx:linear-gradient><vx:radial-gradient id="h" href="#g" cx="1" r="2"/>)x"
+    R"x(</vx:defs></vx:root>)x";
+
+/// What a document does: draws, or fails with an Exception that has something to say.
+void expectPictureOrException(const std::string& document, const std::string& what) {
+    const CapturedLog log;
+    try {
+        EXPECT_TRUE(draw(document).ends_with("{\"op\":\"endDocument\"}\n")) << what;
+    } catch (const Exception& e) {
+        EXPECT_STRNE(e.what(), "") << what;
+    }
+}
+
+TEST(EngineSweep, ADocumentCutAnywhereIsRefused) {
+    const CapturedLog log;
+    EXPECT_NO_THROW(load(kChart));
+    for (std::size_t length = 0; length < kChart.size(); ++length) {
+        EXPECT_THROW(load(kChart.substr(0, length)), Exception) << "cut at " << length;
+    }
+}
+
+TEST(EngineSweep, NastyValuesDrawSomethingOrAreRefused) {
+    const std::string digits(10'000, '9');
+    const std::string nasty[] = {"",   "0",     "-1",  "1e38", "-1e38",        "1e999", "nan",      "1e-45",   "1e38%",
+                                 "#g", "0 0 0", "{0}", "none", "url(#nobody)", digits,  "16777216", "0.5 0.5", "-3e9"};
+    std::size_t swept = 0;
+    for (std::size_t quote = kChart.find("=\""); quote != std::string::npos; quote = kChart.find("=\"", quote + 1)) {
+        const std::size_t end = kChart.find('"', quote + 2);
+        for (const std::string& value : nasty) {
+            expectPictureOrException(kChart.substr(0, quote + 2) + value + kChart.substr(end),
+                                     kChart.substr(quote - 12, 12) + "=" + value.substr(0, 20));
+        }
+        ++swept;
+    }
+    EXPECT_GT(swept, 50U);
+}
+
+TEST(EngineSweep, EveryElementMayStandEmptyInEveryOther) {
+    const CapturedLog log;
+    for (XmlObjectTypeInfo* const outer : XmlObjectFactory::get()->typeInfos()) {
+        if (outer->isAbstract()) continue;
+        const std::string name(outer->getKey().name);
+        for (XmlObjectTypeInfo* const inner : XmlObjectFactory::get()->typeInfos()) {
+            if (inner->isAbstract()) continue;
+            const std::string child = "<" + std::string(inner->getKey().name) + "/>";
+            EXPECT_NO_THROW(load(rootWith("", "<" + name + ">" + child + "</" + name + ">"))) << name << child;
+        }
+    }
+}
+
+TEST(EngineSweep, AnyShapeOfTreeIsFreedWithoutHarm) {
+    XmlObjPtr<XmlObject> body;
+    {
+        const auto root = load(kChart);
+        body = root->getBodies()[0];
+        EXPECT_EQ(body->getParent(), root.get());
+    }
+    EXPECT_EQ(body->getParent(), nullptr) << "a child that outlives its tree has no parent";
+    VexaRenderContext context(make<NullSurface>(), 100, 100);
+    const CapturedLog log;
+    static_cast<VexaObject&>(*body).render(context);
+    EXPECT_EQ(log.codes(), "34001") << "and paints what it can: its gradient is gone with the root";
+}
+
+}  // namespace
+}  // namespace VEXA

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "vexa/support/core/Stream.h"
+#include "vexa/surfaces/DisplayListSurface.h"
+#include "vexa/surfaces/SvgSurface.h"
+
+namespace VEXA {
+
+using Drawing = std::function<void(RenderContext&)>;
+
+inline SmartPtr<Color> colorOf(std::uint32_t rgb) {
+    return make<RGBColor>(static_cast<std::uint8_t>(rgb >> 16U), static_cast<std::uint8_t>(rgb >> 8U),
+                          static_cast<std::uint8_t>(rgb));
+}
+
+inline SmartPtr<Brush> solid(std::uint32_t rgb, float opacity = 1) {
+    return make<SolidColorBrush>(colorOf(rgb), opacity);
+}
+
+inline SmartPtr<Stroke> pen(std::uint32_t rgb, float width = 1) { return make<Stroke>(solid(rgb), width); }
+
+/// Red to blue, left to right over the box.
+inline SmartPtr<GradientBrush> redToBlue(GradientUnits units = GradientUnits::ObjectBoundingBox,
+                                         GradientSpreadMethod spread = GradientSpreadMethod::Pad) {
+    const SmartPtr<GradientBrush> gradient = make<LinearGradientBrush>(0.0F, 0.0F, 1.0F, 0.0F, units, spread);
+    gradient->addStop(0, colorOf(0xFF0000), 1);
+    gradient->addStop(1, colorOf(0x0000FF), 1);
+    return gradient;
+}
+
+inline SmartPtr<Font> fontOf(const String& family, float size) {
+    const SmartPtr<Font> font = make<Font>();
+    font->setFontFamily(family);
+    font->setFontSize(size);
+    return font;
+}
+
+template <class Surface>
+std::string documentOf(const Drawing& draw, const DocumentInfo& info = {}) {
+    const SmartPtr<IO::MemoryStream> stream = make<IO::MemoryStream>();
+    const SmartPtr<Surface> surface = make<Surface>(stream);
+    surface->setDocumentInfo(info);
+    surface->beginDocument();
+    surface->beginPage({200, 100});
+    draw(*surface);
+    surface->endPage();
+    surface->endDocument();
+    return stream->bytes();
+}
+
+/// What lies between two texts that must both be there; else a note of what is missing.
+inline std::string between(const std::string& text, const std::string& start, const std::string& end) {
+    const std::size_t from = text.find(start);
+    if (from == text.npos) return "no " + start;
+    const std::size_t to = text.find(end, from + start.size());
+    if (to == text.npos) return "no " + end;
+    return text.substr(from + start.size(), to - from - start.size());
+}
+
+/// The elements of an SVG document behind its root's start tag, a line each.
+inline std::string svgBody(const Drawing& draw) {
+    return between(documentOf<SvgSurface>(draw), "stroke-miterlimit=\"2\">\n", "</svg>");
+}
+
+/// The lines of a display list between those of the page.
+inline std::string displayList(const Drawing& draw) {
+    return between(documentOf<DisplayListSurface>(draw), "\"height\":100}\n", "{\"op\":\"endPage\"}");
+}
+
+}  // namespace VEXA

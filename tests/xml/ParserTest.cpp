@@ -1,0 +1,377 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "tests/xml/Library.h"
+#include "vexa/support/core/Limits.h"
+
+namespace VEXA::Testing {
+namespace {
+
+const Box& asBox(const XmlObjPtr<XmlObject>& object) { return static_cast<const Box&>(*object); }
+const Book& bookAt(const Box& box, std::size_t index) { return static_cast<const Book&>(*box.items[index]); }
+
+TEST(Parser, MakesAnElementInOrder) {
+    events.clear();
+    read(box("<book name='b' x='1'/><label name='l'/>", "name='a' xmlns:o='urn:other' o:tag='t'"));
+    const std::vector<std::string> expected = {"initialize, name ",  // before the attributes are set
+                                               "unrecognized urn:other|tag=t",
+                                               "initialize, name ",
+                                               "unrecognized |x=1",
+                                               "finalize b",
+                                               "initialize, name ",
+                                               "finalize a"};
+    EXPECT_EQ(events, expected);
+}
+
+TEST(Parser, KeepsOrderParentsAndPlaces) {
+    const auto top = read(
+        "<lib:box xmlns:lib='urn:library'\n lib:name='outer'>\n  <lib:book name='1'/><lib:box/>\n"
+        "  <lib:book name='2'/></lib:box>");
+    const Box& outer = asBox(top);
+    ASSERT_EQ(outer.items.size(), 3U);
+    EXPECT_EQ(outer.name->toUtf8(), "outer") << "a prefixed attribute means the same";
+    EXPECT_TRUE(outer.items[0]->isA(Book::typeID()));
+    EXPECT_TRUE(outer.items[1]->isA(Box::typeID()));
+    EXPECT_TRUE(outer.items[1]->isKindOf(Item::typeID()));
+    EXPECT_FALSE(outer.items[1]->isKindOf(Book::typeID()));
+    EXPECT_EQ(outer.items[2]->getParent(), &outer);
+    EXPECT_EQ(outer.getPlace(), (SourcePlace{1, 1}));
+    EXPECT_EQ(outer.items[1]->getPlace(), (SourcePlace{3, 23}));
+    EXPECT_EQ(outer.items[2]->getPlace(), (SourcePlace{4, 3}));
+}
+
+struct Inheritance {
+    const char* document;
+    float size;
+    float depth;
+    bool sizeGiven;
+    const char* why;
+};
+
+TEST(Parser, InheritsAttributes) {
+    const Inheritance cases[] = {
+        {"<box><book/></box>", 8, 0, false, "no ancestor carries a value: the defaults"},
+        {"<box><book size='3'/></box>", 3, 0, true, "its own value"},
+        {"<box size='5'><book/></box>", 5, 0, false, "an ancestor that does not register the name carries it too"},
+        {"<box size='5'><book size='8'/></box>", 8, 0, true, "an explicit default stops inheritance"},
+        {"<box depth='5'><book/></box>", 8, 0, false, "an ancestor that keeps the name to itself is passed over"},
+        {"<box size='5'><box size='6'><box><book/></box></box></box>", 6, 0, false, "the nearest ancestor wins"},
+        {"<box size='5'><box size='6'/><book/></box>", 5, 0, false, "a sibling's value ends with the sibling"},
+        {"<box size='5'><book size='6'/><book/></box>", 6, 0, true, "the first book keeps its own"},
+    };
+    for (const Inheritance& c : cases) {
+        std::string document = c.document;
+        document.insert(4, " xmlns='urn:library'");
+        const auto top = read(document);
+        const Item* item = &asBox(top);
+        while (item->isA(Box::typeID())) {
+            const auto& items = static_cast<const Box*>(item)->items;
+            item = items[items.size() > 1 && items[0]->isA(Box::typeID()) ? 1 : 0].get();
+        }
+        const auto& book = static_cast<const Book&>(*item);
+        EXPECT_EQ(book.size->getNumber(), c.size) << c.why;
+        EXPECT_EQ(book.depth->getNumber(), c.depth) << c.why;
+        EXPECT_EQ(book.size.isGiven(), c.sizeGiven) << c.why;
+    }
+    ReadOptions plain;
+    plain.inherit = false;
+    EXPECT_EQ(bookAt(asBox(read(box("<book/>", "size='5'"), plain)), 0).size->getNumber(), 8);
+}
+
+TEST(Parser, WritingOneValueChangesNoOther) {
+    const auto top = read(box("<book/><book/>", "size='5'"));
+    auto& first = const_cast<Book&>(bookAt(asBox(top), 0));
+    first.size.setValue(Length(9));
+    first.depth.setValue(Length(7));
+    EXPECT_EQ(bookAt(asBox(top), 1).size->getNumber(), 5) << "shared with the ancestor";
+    EXPECT_EQ(bookAt(asBox(top), 1).depth->getNumber(), 0) << "shared with every default";
+    EXPECT_TRUE(first.depth != DefaultLength);
+    first.depth.setValue(Length(0));
+    EXPECT_TRUE(first.depth == DefaultLength) << "values are compared, not pointers";
+}
+
+struct Problem {
+    std::string document;
+    std::vector<std::string> lines;
+    const char* why;
+};
+
+TEST(Parser, CollectsEveryProblemWithItsPlace) {
+    const Problem cases[] = {
+        {box("<book size='big'/>"), {"1:27: error 3003"}, "a value that is none of its type"},
+        {box("\n <bok/>\n <book size='1' Size='2'/>"), {"2:2: warning 3005", "3:2: warning 3007"}, "near names"},
+        {box("<zzzzzzzzz/><book qqqqqqqqqqq='1'/>"), {"1:27: warning 3004", "1:39: warning 3006"}, "no near name"},
+        {box("<bok><book size='big'/></bok>"), {"1:27: warning 3005"}, "what lies in an unknown element is not read"},
+        {box("<label/><label/>"), {"1:35: warning 3008"}, "a second child where one is allowed"},
+        {box(" a <book/> b"), {"1:27: warning 3009"}, "text, told once for an element"},
+        {box(" \n\t "), {}, "blank text is layout"},
+        {box("<book xmlns=''/>"), {"1:27: warning 3016"}, "a known name outside the namespace"},
+        {box("<book size='a'/><book size='b'/>\n<bok/></bx>"),
+         {"1:27: error 3003", "1:43: error 3003", "2:1: warning 3005", "2:9: error 3017"},
+         "one run finds all of them"},
+        {"<book2 xmlns='urn:library'/>", {"1:1: error 3002"}, "an unknown top element"},
+        {"<box/>", {"1:1: error 3016"}, "the top element without its namespace"},
+        {"<!DOCTYPE box [<!ENTITY a 'b'>]><box xmlns='urn:library'/>",
+         {"1:15: error 3001"},
+         "no entities: refused where they would begin"},
+        {"<?xml version='1.0' encoding='EBCDIC-9'?><box xmlns='urn:library'/>", {"1:31: error 3015"}, "encodings"},
+        {"<box xmlns='urn:library'/><box/>", {"1:27: error 3000"}, "two top elements"},
+        {"<p:box/>", {"1:1: error 3000"}, "a prefix without declaration"},
+        {"", {}, "an empty stream has no element: that is the caller's to tell"},
+        {" \n<!-- nothing -->", {}, "nor has a blank one"},
+    };
+    for (const Problem& c : cases) {
+        Collector collector;
+        ReadOptions options;
+        options.monitor = &collector;
+        read(c.document, options);
+        EXPECT_EQ(collector.lines, c.lines) << c.why << "\n" << c.document;
+    }
+}
+
+TEST(Parser, TellsWhatWouldDo) {
+    const std::pair<std::string, const char*> cases[] = {
+        {box("<book size='thick'/>"), "book: attribute \"size\": \"thick\" is not a length"},
+        {box("<boook/>"), "unknown element \"boook\" in \"box\" is skipped; did you mean \"book\"?"},
+        {box("<book Size='2'/>"), "did you mean \"size\"?"},
+        {box("<book>"), "<book> of line 1 is open"},
+        {"<box/>", "xmlns=\"urn:library\""},
+    };
+    for (const auto& [document, part] : cases) {
+        Collector collector;
+        ReadOptions options;
+        options.monitor = &collector;
+        read(document, options);
+        ASSERT_EQ(collector.records.size(), 1U) << document;
+        EXPECT_NE(collector.records[0].message.toUtf8().find(part), std::string::npos)
+            << collector.records[0].message.toUtf8();
+    }
+}
+
+TEST(Parser, ThrowsTheFirstErrorWithoutAMonitor) {
+    Collector log;
+    const LogScope scope(log);
+    try {
+        read(box("<bok/>\n<book size='big'/><book size='huge'/>"));
+        FAIL();
+    } catch (const Exception& e) {
+        EXPECT_EQ(e.getCode(), 3003);
+        EXPECT_EQ(e.getPlace(), (SourcePlace{2, 1}));
+    }
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"1:27: warning 3005", "2:1: error 3003"}));
+    EXPECT_THROW(read(box("<book>")), Exception);
+}
+
+TEST(Parser, TreatsUnknownElementsAsAsked) {
+    ReadOptions options;
+    Collector collector;
+    options.monitor = &collector;
+    options.unrecognized = UnrecognizedElementTreatment::SkipSilently;
+    read(box("<zzz/>"), options);
+    EXPECT_TRUE(collector.lines.empty());
+    options.unrecognized = UnrecognizedElementTreatment::Refuse;
+    read(box("<zzz/>"), options);
+    EXPECT_EQ(collector.lines, std::vector<std::string>{"1:27: error 3004"});
+}
+
+TEST(Parser, HandsTextToObjectsWhenAsked) {
+    events.clear();
+    ReadOptions options;
+    options.collectText = true;
+    read(box("a<book/>b &lt;"), options);
+    EXPECT_EQ(events[1], "text a");
+}
+
+TEST(Parser, ReadsEncodings) {
+    const auto utf16 = [](const std::string& ascii, bool bigEndian) {
+        std::string bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
+        for (const char c : ascii) bytes += bigEndian ? std::string({'\0', c}) : std::string({c, '\0'});
+        return bytes;
+    };
+    const auto nameOf = [](const std::string& document, const char* encoding = "") {
+        ReadOptions options;
+        options.encoding = encoding;
+        return asBox(read(document, options)).name->toUtf8();
+    };
+    EXPECT_EQ(nameOf(utf16(box("", "name='Ab'"), true)), "Ab");
+    EXPECT_EQ(nameOf(utf16(box("", "name='Ab'"), false)), "Ab");
+    EXPECT_EQ(nameOf("\xEF\xBB\xBF" + box("", "name='\xC3\xA9'")), "\xC3\xA9");
+    EXPECT_EQ(nameOf("<?xml version='1.0' encoding='ISO-8859-1'?>" + box("", "name='\xE9'")), "\xC3\xA9");
+    EXPECT_EQ(nameOf(box("", "name='\xE9'"), "ISO-8859-1"), "\xC3\xA9");
+    EXPECT_THROW(nameOf(box("", "name='\xE9'")), Exception) << "no UTF-8";
+    EXPECT_THROW(nameOf("<?xml version='1.0' encoding='latin-9'?>" + box("", "name='\xE9'")), Exception);
+}
+
+TEST(Parser, ReadsTheSameFromAPipe) {
+    std::string content;
+    for (int i = 0; i < 2000; ++i) content += "<book name='" + std::to_string(i) + "' size='2'/>\n";
+    for (const std::size_t step : {std::size_t{1}, std::size_t{7}, std::size_t{1} << 20}) {
+        const auto top = readFrom(SmartPtr<IO::Stream>(new TrickleStream(box(content), step)));
+        ASSERT_EQ(asBox(top).items.size(), 2000U);
+        EXPECT_EQ(bookAt(asBox(top), 1999).name->toUtf8(), "1999");
+        EXPECT_EQ(bookAt(asBox(top), 1999).getPlace(), (SourcePlace{2000, 1}));
+    }
+}
+
+TEST(Parser, CountsLinesAndCharacters) {
+    const auto utf16 = [](const std::string& ascii) {
+        std::string bytes = "\xFF\xFE";
+        for (const char c : ascii) bytes += std::string({c, '\0'});
+        return bytes;
+    };
+    const std::string latin1 = "<?xml version='1.0' encoding='ISO-8859-1'?>\n";
+    struct {
+        std::string document;
+        SourcePlace place;
+        const char* why;
+    } const cases[] = {
+        {box("<book/>"), {1, 27}, "columns count from 1"},
+        {box("\n\n  <book/>"), {3, 3}, "line feeds"},
+        {box("\r\n\r\n  <book/>"), {3, 3}, "line ends of two characters are one"},
+        {box("\r\r  <book/>"), {3, 3}, "carriage returns alone"},
+        {box("\r\n\n\r <book/>"), {4, 2}, "all of them"},
+        {box("<!--\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80--><book/>"), {1, 37}, "characters, not bytes"},
+        {box("<!--\xC3\xA9-->\n<!--\xC3\xA9\xC3\xA9--><book/>"), {2, 10}, "of this line only"},
+        {"\xEF\xBB\xBF" + box("<book/>"), {1, 27}, "a byte order mark is no column"},
+        {utf16(box("\n <book/>")), {2, 2}, "two bytes a character"},
+        {latin1 + box("<!--\xE9\xE9--><book/>"), {2, 36}, "one byte a character"},
+        {box(std::string(200'000, ' ') + "\n<book/>"), {2, 1}, "over many blocks"},
+        {box(std::string(200'000, ' ') + "<book/>"), {1, 200'027}, "in one line"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(bookAt(asBox(read(c.document)), 0).getPlace(), c.place) << c.why;
+        for (const std::size_t step : {std::size_t{1}, std::size_t{100'000}}) {
+            const auto top = readFrom(SmartPtr<IO::Stream>(new TrickleStream(c.document, step)));
+            EXPECT_EQ(bookAt(asBox(top), 0).getPlace(), c.place) << c.why << ", by " << step;
+        }
+    }
+}
+
+TEST(Parser, FailsCleanlyWhereverTheDocumentIsCut) {
+    const std::string document = box("<book name='&amp;\xC3\xA9' size='1'/><box><label name='x'/></box><!-- c -->");
+    for (std::size_t n = 1; n < document.size(); ++n) {
+        EXPECT_THROW(read(document.substr(0, n)), Exception) << "cut at " << n;
+        EXPECT_THROW(readFrom(SmartPtr<IO::Stream>(new TrickleStream(document.substr(0, n), 3))), Exception)
+            << "cut at " << n;
+    }
+}
+
+TEST(Parser, PassesAnObjectsExceptionOn) { EXPECT_THROW(read(box("<label name='explode'/>")), std::runtime_error); }
+
+TEST(Parser, ObjectsMayOutliveTheirTree) {
+    XmlObjPtr<Item> book;
+    TXmlAttribute<String> name(DefaultStringAttribute);
+    {
+        const auto top = read(box("<box><book name='a long name, kept on the heap' size='4'/></box>", "depth='3'"));
+        book = static_cast<const Box&>(*asBox(top).items[0]).items[0];
+        name = book->name;
+        EXPECT_NE(book->getParent(), nullptr);
+    }
+    EXPECT_EQ(book->getParent(), nullptr) << "no dangling parent";
+    EXPECT_EQ(static_cast<const Book&>(*book).size->getNumber(), 4);
+    book = nullptr;
+    EXPECT_EQ(name->toUtf8(), "a long name, kept on the heap");
+}
+
+TEST(Parser, TreesMayBeFreedOnAnotherThread) {
+    std::string content;
+    for (int i = 0; i < 3000; ++i) content += "<book name='" + std::to_string(i) + "'/>";
+    for (int round = 0; round < 4; ++round) {
+        XmlObjPtr<XmlObject> top = read(box(content));
+        std::thread([tree = std::move(top)]() mutable { tree = nullptr; }).join();
+    }
+    std::thread([&] { EXPECT_EQ(asBox(read(box(content))).items.size(), 3000U); }).join();
+}
+
+TEST(Records, KnowTheirClass) {
+    registerLibrary();
+    const auto* const record = Book::getTypeInfoInstance();
+    EXPECT_EQ(record->getElementName().toUtf8(), "book");
+    EXPECT_EQ(XmlObjectFactory::instance().findTypeInfo({"urn:library", "book"}), record);
+    EXPECT_EQ(XmlObjectFactory::instance().findTypeInfo({"urn:other", "book"}), nullptr);
+    EXPECT_EQ(record->getParentTypeInfo(), Item::getTypeInfoInstance());
+    EXPECT_EQ(record->attributes().front().getName(), "name") << "ancestors' attributes come first";
+    EXPECT_TRUE(record->createObject()->isA(Book::typeID()));
+    try {
+        Item::getTypeInfoInstance()->createObject();
+        FAIL();
+    } catch (const Exception& e) {
+        EXPECT_EQ(e.getCode(), 2029);
+        EXPECT_EQ(std::get<String>(e.getArguments().at(0)).toUtf8(), "Item");
+        EXPECT_STREQ(e.getCodeLocation().source, "Item");
+        EXPECT_EQ(e.getCodeLocation().line, 17);
+    }
+}
+
+TEST(Records, SetDefaultsOverWhatWasGiven) {
+    const auto top = read(box("<book name='n' size='3'/>"));
+    auto& book = const_cast<Book&>(bookAt(asBox(top), 0));
+    Book::getTypeInfoInstance()->setAttributeDefaults(book);
+    EXPECT_TRUE(book.name->isEmpty());
+    EXPECT_EQ(book.size->getNumber(), 8);
+    EXPECT_FALSE(book.size.isGiven());
+}
+
+// Limits: each stops an attack, told in Limits.h.
+
+int codeOf(const std::string& document) {
+    try {
+        read(document);
+    } catch (const Exception& e) {
+        return e.getCode();
+    }
+    return 0;
+}
+
+std::string repeat(const std::string& text, std::size_t count) {
+    std::string all;
+    all.reserve(text.size() * count);
+    for (std::size_t i = 0; i < count; ++i) all += text;
+    return all;
+}
+
+TEST(Limits, Nesting) {
+    const auto nested = [](std::size_t depth) { return box(repeat("<box>", depth - 1) + repeat("</box>", depth - 1)); };
+    EXPECT_EQ(codeOf(nested(Limits::kNestingDepth)), 0);
+    EXPECT_EQ(codeOf(nested(Limits::kNestingDepth + 1)), 3010);
+    EXPECT_EQ(codeOf(box("<z>" + repeat("<box>", Limits::kNestingDepth))), 3010) << "skipped elements count";
+}
+
+TEST(Limits, Attributes) {
+    const auto many = [](std::size_t count, const char* prefix) {
+        std::string attributes;
+        for (std::size_t i = 0; i < count; ++i) attributes += " " + std::string(prefix) + std::to_string(i) + "='u'";
+        return box("", attributes);
+    };
+    Collector quiet;
+    const LogScope scope(quiet);
+    EXPECT_EQ(codeOf(many(Limits::kAttributes - 1, "a")), 0) << "the namespace is the last one";
+    EXPECT_EQ(codeOf(many(Limits::kAttributes, "a")), 3011);
+    EXPECT_EQ(codeOf(many(Limits::kAttributes, "xmlns:a")), 3011) << "declarations count";
+}
+
+TEST(Limits, Elements) {
+    Collector quiet;
+    const LogScope scope(quiet);
+    EXPECT_EQ(codeOf(box("<z>" + repeat("<y/>", Limits::kElements) + "</z>")), 3012);
+}
+
+TEST(Limits, TagSize) {
+    const std::string huge(Limits::kTagBytes + 200'000, 'x');
+    EXPECT_EQ(codeOf(box("<book name='" + huge + "'/>")), 3013);
+    EXPECT_EQ(codeOf(box("<!--" + huge + "-->")), 3013);
+    EXPECT_THROW(readFrom(SmartPtr<IO::Stream>(new TrickleStream(box("<!--" + huge), std::size_t{1} << 20))),
+                 Exception);
+}
+
+TEST(Limits, Warnings) {
+    Collector collector;
+    const LogScope scope(collector);
+    read(box(repeat("<z/>", 1000)));
+    ASSERT_EQ(collector.lines.size(), Limits::kWarnings + 1);
+    EXPECT_EQ(collector.records.back().code, 3014);
+}
+
+}  // namespace
+}  // namespace VEXA::Testing

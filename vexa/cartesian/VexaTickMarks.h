@@ -1,0 +1,29 @@
+#pragma once
+
+#include "vexa/style/VexaElementObject.h"
+
+namespace VEXA {
+
+/// The tick marks of an axis.
+class VexaTickMarks : public VexaElementObject {
+public:
+    class VexaTickMarksTypeInfo final : public XmlTypeInfo<VexaTickMarks, VexaElementObject> {
+    public:
+        VexaTickMarksTypeInfo();
+        static void initTypeInfo(XmlObjectTypeInfo* info);
+    };
+
+    static XmlObjectTypeInfo* getTypeInfoInstance();
+    static int typeID() { return getTypeInfoInstance()->typeID(); }
+    XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
+
+    /// Paints nothing; see VexaPlotArea::render.
+    void render(VexaRenderContext& context) override;
+
+private:
+    TXmlAttribute<TickMarkStyle> tickMarkStyle_{DefaultTickMarkStyle};
+    TXmlAttribute<TickMarkType> tickMarkType_{DefaultTickMarkType};
+    TXmlAttribute<Length> tickMarkLength_{DefaultTickLength};
+};
+
+}  // namespace VEXA

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "vexa/engine/ChartNamespace.h"
+#include "vexa/support/values/Defaults.h"
+#include "vexa/support/xml/XmlTypeInfo.h"
+
+namespace VEXA {
+
+class VexaRenderContext;
+
+/// Base of every element of a chart document.
+class VexaObject : public XmlObject {
+public:
+    class VexaObjectTypeInfo final : public XmlTypeInfo<VexaObject, XmlObject> {
+    public:
+        VexaObjectTypeInfo();
+        static void initTypeInfo(XmlObjectTypeInfo* info);
+    };
+
+    static XmlObjectTypeInfo* getTypeInfoInstance();
+    static int typeID() { return getTypeInfoInstance()->typeID(); }
+    XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
+
+    /// The name that references use; empty when the document gives none.
+    String getId() const { return id_.getValue(); }
+
+    /// Paints the object.
+    virtual void render(VexaRenderContext& context) = 0;
+    /// This object when `id` is its own id, else empty. Children are not searched.
+    virtual XmlObjPtr<VexaObject> findObject(const String& id);
+
+    /// The nearest root upwards, this object included; without one the top of the tree.
+    XmlObject* getVexaRoot();
+    /// What the root (or the top of a tree without one) finds under the reference; empty when it finds nothing.
+    XmlObjPtr<VexaObject> findReferencedObject(const String& reference);
+
+    /// Tells this class, which does not know its descendants, how to recognise the root. The root's record calls it.
+    static void setRootTypeId(int typeId) noexcept;
+
+protected:
+    VexaObject() noexcept = default;
+
+    TXmlAttribute<String> id_{DefaultStringAttribute};
+};
+
+}  // namespace VEXA

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "vexa/legend/VexaLegend.h"
+#include "vexa/legend/VexaTitle.h"
+#include "vexa/style/VexaAreaObject.h"
+#include "vexa/style/VexaDefs.h"
+#include "vexa/support/drawing/RenderContext.h"
+
+namespace VEXA {
+
+/// The top element of a chart document: owns the chart bodies, title, legend and definitions, and drives a render.
+///
+/// A tree may be rendered more than once, but not on two threads at a time: layout and theme are written into it.
+class VexaRoot : public VexaAreaObject {
+public:
+    class VexaRootTypeInfo final : public XmlTypeInfo<VexaRoot, VexaAreaObject> {
+    public:
+        VexaRootTypeInfo();
+        static void initTypeInfo(XmlObjectTypeInfo* info);
+    };
+
+    static XmlObjectTypeInfo* getTypeInfoInstance();
+    static int typeID() { return getTypeInfoInstance()->typeID(); }
+    XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
+
+    /// In px; a percentage is one of `reference`.
+    float getWidth(float reference) const { return width_->pxSize(reference); }
+    float getHeight(float reference) const { return height_->pxSize(reference); }
+    bool hasPercentWidth() const { return width_->isPercent(); }
+    bool hasPercentHeight() const { return height_->isPercent(); }
+
+    /// Paints the whole chart: background, bodies in document order, title, legend. `width` and `height` are what a
+    /// size in percent refers to, in px. The surface's state is as before when it ends, also by an exception. Throws
+    /// Exception 34011 for a view box without extent.
+    void render(SmartPtr<RenderContext> surface, float width, float height);
+    /// Does nothing: a root is painted by the call above only.
+    void render(VexaRenderContext& context) override;
+    /// Builds the theme and hands it to the first body and to the legend, once for a tree; not at all for theme `none`.
+    /// `theme` plays no part.
+    void preRender(VexaRenderContext& context, SmartPtr<VexaTheme> theme) override;
+    void drawBackground(VexaRenderContext& context) override;
+    /// The definition that the reference "#id" names, the first one in document order; empty when there is none.
+    XmlObjPtr<VexaObject> findObject(const String& id) override;
+
+    /// Plot areas, pies and spiders in document order.
+    const XmlObjectList<XmlObject>& getBodies() const { return bodies_; }
+    /// Empty when the document has none.
+    const XmlObjPtr<VexaTitle>& getTitle() const { return title_; }
+
+private:
+    static VexaAreaObject* asArea(const XmlObjPtr<XmlObject>& body);
+    VexaAreaObject* firstBody() const;
+    void renderChildren(VexaRenderContext& context);
+
+    XmlObjectList<XmlObject> bodies_;
+    XmlObjPtr<VexaLegend> legend_;
+    XmlObjPtr<VexaTitle> title_;
+    XmlObjectList<VexaDefs> defs_;
+    TXmlAttribute<ViewBox> viewBox_{DefaultViewBox};
+    bool needsPreRender_ = true;
+};
+
+}  // namespace VEXA

@@ -1,0 +1,130 @@
+#include "vexa/spider/VexaSpider.h"
+
+#include <algorithm>
+
+#include "vexa/support/core/Log.h"
+
+namespace VEXA {
+
+namespace {
+
+constexpr StyleLocations kLocations{"VexaSpider", 159, 159, 159, 159, 159, 159};
+
+}  // namespace
+
+VexaSpider::VexaSpiderTypeInfo::VexaSpiderTypeInfo()
+    : XmlTypeInfo("VexaSpider", "spider", chartNamespace(), &initTypeInfo) {}
+
+void VexaSpider::VexaSpiderTypeInfo::initTypeInfo(XmlObjectTypeInfo* info) {
+    VexaAreaObjectTypeInfo::initTypeInfo(info);
+    const XmlNamespace& space = chartNamespace();
+    addAttributeTypeInfo(info, "unit-frequency", space, &VexaSpider::unitFrequency_, DefaultFloatAttribute, false);
+    addAttributeTypeInfo(info, "draw-web", space, &VexaSpider::drawWeb_, DefaultTrueBoolAttribute, false);
+    addAttributeTypeInfo(info, "web-stroke", space, &VexaSpider::webStroke_, DefaultSFillColor, false);
+    addAttributeTypeInfo(info, "web-stroke-opacity", space, &VexaSpider::webStrokeOpacity_, DefaultFloatOrPercent,
+                         false);
+    addAttributeTypeInfo(info, "web-stroke-width", space, &VexaSpider::webStrokeWidth_, DefaultStrokeWidth, false);
+    addAttributeTypeInfo(info, "web-stroke-linecap", space, &VexaSpider::webLineCap_, DefaultSLineCap, false);
+    addAttributeTypeInfo(info, "web-stroke-linejoin", space, &VexaSpider::webLineJoin_, DefaultSLineJoin, false);
+    addAttributeTypeInfo(info, "web-stroke-miterlimit", space, &VexaSpider::webMiterLimit_, DefaultMiterLimit, false);
+    addAttributeTypeInfo(info, "web-stroke-dasharray", space, &VexaSpider::webDashArray_, DefaultSDashPattern, false);
+    addAttributeTypeInfo(info, "web-stroke-dashoffset", space, &VexaSpider::webDashOffset_, DefaultLength, false);
+    addElementTypeInfo(info, "spider-serie", space, &VexaSpider::series_);
+    addElementTypeInfo(info, "spider-axis", space, &VexaSpider::axes_);
+}
+
+XmlObjectTypeInfo* VexaSpider::getTypeInfoInstance() {
+    static Immortal<VexaSpiderTypeInfo> info;
+    return &info.value;
+}
+
+VexaSpider& VexaSpider::of(const VexaObject& child) {
+    XmlObject* const parent = child.getParent();
+    if (parent == nullptr || !parent->isKindOf(typeID())) throwEmptySmartPtr();
+    return *static_cast<VexaSpider*>(parent);
+}
+
+void VexaSpider::preRender(VexaRenderContext&, SmartPtr<VexaTheme>) {}
+
+int VexaSpider::getSerieCount() { return static_cast<int>(series_.size()); }
+
+float VexaSpider::getRadius(VexaRenderContext& context) {
+    const SizeF size = getAreaSize(context);
+    return std::min(size.width / 2, size.height / 2);
+}
+
+SpiderScale VexaSpider::getDataScale() const {
+    SpiderExtent values;
+    if (!axes_.isEmpty()) {
+        for (const auto& serie : series_) values.add(serie->getDataRange());
+    }
+    return spiderDataScale(values);
+}
+
+SpiderScale VexaSpider::getValueRange() const {
+    SpiderExtent bounds;
+    for (const auto& axis : axes_) bounds.add({axis->getMin(), axis->getMax()});
+    return spiderScale(getDataScale(), bounds);
+}
+
+float VexaSpider::getPosition(float value) const { return getValueRange().position(value); }
+
+SpiderLayout VexaSpider::getLayout(VexaRenderContext& context) {
+    return {axes_.size(), getRadius(context), getValueRange()};
+}
+
+Vector<float> VexaSpider::getWebValues(VexaRenderContext& context) { return getWebValues(getLayout(context)); }
+
+Vector<float> VexaSpider::getWebValues(const SpiderLayout& layout) {
+    const float step = spiderRingStep(layout.scale(), layout.radius(), *unitFrequency_);
+    WebRings rings = spiderWebRings(layout.scale(), step);
+    if (rings.isThinned()) Log::warning(34012, {rings.wanted}, getPlace());
+    return std::move(rings.values);
+}
+
+void VexaSpider::render(VexaRenderContext& context) {
+    const RenderContextScope scope(context.getRenderContext());
+    drawBackground(context);
+    context.translate(*x_, *y_);
+    const SizeF size = getAreaSize(context);
+    context.translate(Length(size.width / 2), Length(size.height / 2));
+    if (!series_.isEmpty() && !axes_.isEmpty()) drawChart(context);
+}
+
+void VexaSpider::drawChart(VexaRenderContext& context) {
+    const SpiderLayout layout = getLayout(context);
+    if (*drawWeb_) drawWeb(context, layout);
+    for (const auto& serie : series_) serie->render(context, layout);
+    int index = 0;
+    for (const auto& axis : axes_) {
+        axis->setIndex(++index);
+        axis->render(context);
+    }
+}
+
+void VexaSpider::drawWeb(VexaRenderContext& context, const SpiderLayout& layout) {
+    context.setFill(nullptr);
+    context.setStroke(makeWebStroke());
+    for (const float value : getWebValues(layout)) context.drawPolygon(layout.ring(value), /*closed*/ true);
+    context.setStroke(nullptr);
+}
+
+SmartPtr<Stroke> VexaSpider::makeWebStroke() {
+    if (webStroke_->getType() == SColorType::None) {
+        raise(UnreacheableCodeException(String::loadString(34013)), kLocations.source, kLocations.strokeType,
+              getPlace());
+    }
+    // A web has one opacity: the area's overall one is for its background.
+    return PaintStyle(*this, kLocations)
+        .makeStroke(*webStroke_,
+                    {webStrokeWidth_,
+                     webLineCap_,
+                     webLineJoin_,
+                     webMiterLimit_,
+                     webDashArray_,
+                     webDashOffset_,
+                     {webStrokeOpacity_, webStrokeOpacity_}},
+                    ColorAspect::Normal, 0.5F);
+}
+
+}  // namespace VEXA

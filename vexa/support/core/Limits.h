@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+/// Every limit of the library, with the attack that it stops and the test that reaches it.
+namespace VEXA::Limits {
+
+/// Open elements. A document of opening tags alone would grow the parser's stack without end. Test: Limits.Nesting
+inline constexpr std::size_t kNestingDepth = 256;
+/// Attributes of one element, namespace declarations counted; each is looked up and checked. Test: Limits.Attributes
+inline constexpr std::size_t kAttributes = 4096;
+/// Elements of a document; each costs some hundred bytes. Test: Limits.Elements
+inline constexpr std::size_t kElements = 5'000'000;
+/// Bytes of one tag or one attribute value; the tokeniser keeps an unfinished tag in memory. Test: Limits.TagSize
+inline constexpr std::size_t kTagBytes = 10'000'000;
+/// Warnings told of one document; a million unknown attributes would flood the log. Test: Limits.Warnings
+inline constexpr std::size_t kWarnings = 100;
+/// Characters of the document quoted in one message. Test: Limits.Quotes
+inline constexpr std::size_t kQuotedCharacters = 80;
+/// Rings of a web. A step of 1e-6 over 1e6 would ask for 1e12 of them. Test: Limits.WebRings
+inline constexpr std::size_t kWebRings = 10'000;
+/// Lines of a caption: a width of 0.001 px would break a long text into millions. Test: Limits.CaptionLines
+inline constexpr std::size_t kCaptionLines = 10'000;
+/// Characters of a number pattern, and of a separator or a sign in it: 100,000 labels could each repeat a pattern of a
+/// megabyte. Tests: Limits.NumberPattern, Limits.NumberSeparator
+inline constexpr std::size_t kNumberPattern = 1000;
+inline constexpr std::size_t kNumberSeparator = 10;
+/// Characters of a requested font family; every text of a picture could repeat a list of a megabyte.
+/// Test: Limits.FontFamily
+inline constexpr std::size_t kFontFamily = 1000;
+/// Largest coordinate that is written, in px; raster libraries count in fixed point. Test: Format.WritesHundredths
+inline constexpr float kCoordinate = 1e9F;
+/// Largest font size, in px. Test: Limits.FontSize
+inline constexpr float kFontSize = 10'000.0F;
+
+}  // namespace VEXA::Limits

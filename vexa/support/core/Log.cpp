@@ -1,0 +1,89 @@
+#include "vexa/support/core/Log.h"
+
+#include <cstdio>
+#include <mutex>
+#include <utility>
+
+#include "vexa/support/core/Limits.h"
+#include "vexa/support/core/Object.h"
+#include "vexa/support/core/QuotedText.h"
+#include "vexa/support/core/StringTable.h"
+
+namespace VEXA {
+
+namespace {
+
+struct SharedSink {
+    std::mutex mutex;
+    std::shared_ptr<LogSink> sink;
+};
+
+constinit Immortal<SharedSink> sharedSink;
+constinit thread_local LogSink* threadSink = nullptr;
+
+/// The warnings of the document that this thread works on.
+struct WarningCount {
+    int scopes = 0;
+    std::size_t written = 0;
+};
+constinit thread_local WarningCount warningCount;
+
+std::shared_ptr<LogSink> currentSink() {
+    const std::lock_guard lock(sharedSink.value.mutex);
+    return sharedSink.value.sink;
+}
+
+/// One call writes the whole line, so that the lines of two threads do not mix.
+void writeToStandardError(const LogRecord& record) {
+    if (record.severity != Severity::Warning) return;
+    std::string line;
+    if (record.place.isKnown()) {
+        line = std::to_string(record.place.line) + ":" + std::to_string(record.place.column) + ": ";
+    }
+    line += "warning: ";
+    escapeForMessage(record.message).appendUtf8To(line);  // nothing drives the terminal, whoever wrote the message
+    line += '\n';
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void deliver(const LogRecord& record) {
+    if (threadSink != nullptr) {
+        threadSink->write(record);
+    } else if (const std::shared_ptr<LogSink> sink = currentSink()) {
+        sink->write(record);  // outside the lock: a sink may log, or set another sink
+    } else {
+        writeToStandardError(record);
+    }
+}
+
+}  // namespace
+
+void Log::warning(int code, const VariantArray& arguments, SourcePlace place) {
+    write({Severity::Warning, code, messageText(code, arguments), place});
+}
+
+void Log::write(const LogRecord& record) {
+    if (record.severity == Severity::Error || warningCount.scopes == 0) return deliver(record);
+    if (warningCount.written > Limits::kWarnings) return;
+    if (++warningCount.written <= Limits::kWarnings) return deliver(record);
+    constexpr int kTooManyWarnings = 3014;
+    const VariantArray limit{static_cast<std::int64_t>(Limits::kWarnings)};
+    deliver({Severity::Warning, kTooManyWarnings, messageText(kTooManyWarnings, limit), record.place});
+}
+
+WarningLimitScope::WarningLimitScope() noexcept {
+    if (warningCount.scopes++ == 0) warningCount.written = 0;
+}
+
+WarningLimitScope::~WarningLimitScope() { --warningCount.scopes; }
+
+std::shared_ptr<LogSink> Log::setSink(std::shared_ptr<LogSink> sink) {
+    const std::lock_guard lock(sharedSink.value.mutex);
+    return std::exchange(sharedSink.value.sink, std::move(sink));
+}
+
+LogScope::LogScope(LogSink& sink) noexcept : previous_(std::exchange(threadSink, &sink)) {}
+
+LogScope::~LogScope() { threadSink = previous_; }
+
+}  // namespace VEXA

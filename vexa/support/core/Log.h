@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+
+#include "vexa/support/core/Exception.h"
+
+namespace VEXA {
+
+enum class Severity : std::uint8_t { Warning, Error };
+
+struct LogRecord {
+    Severity severity = Severity::Warning;
+    int code = 0;  ///< number of the message, see String::loadString
+    String message;
+    SourcePlace place;
+};
+
+/// Receives what is logged. Called from any thread that logs.
+class LogSink {
+public:
+    virtual ~LogSink() = default;
+    virtual void write(const LogRecord& record) = 0;
+};
+
+/// The log. By default warnings go to the standard error stream; errors do not, since who catches the exception tells
+/// them.
+class Log {
+public:
+    /// Writes message `code` with its arguments.
+    static void warning(int code, const VariantArray& arguments = {}, SourcePlace place = {});
+    static void write(const LogRecord& record);
+
+    /// The sink of all threads without one of their own; empty restores the default. Returns the one before.
+    static std::shared_ptr<LogSink> setSink(std::shared_ptr<LogSink> sink);
+};
+
+/// Bounds the warnings of one document: while the scope lives, this thread writes Limits::kWarnings of them, then one
+/// that says so, then none. A scope inside another one counts on with it.
+class WarningLimitScope {
+public:
+    WarningLimitScope() noexcept;
+    ~WarningLimitScope();
+    WarningLimitScope(const WarningLimitScope&) = delete;
+    WarningLimitScope& operator=(const WarningLimitScope&) = delete;
+};
+
+/// Sends what this thread logs to `sink` while the scope lives, so that the messages of two documents do not mix.
+class LogScope {
+public:
+    explicit LogScope(LogSink& sink) noexcept;
+    ~LogScope();
+    LogScope(const LogScope&) = delete;
+    LogScope& operator=(const LogScope&) = delete;
+
+private:
+    LogSink* previous_;
+};
+
+}  // namespace VEXA

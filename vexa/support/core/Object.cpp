@@ -1,0 +1,7 @@
+#include "vexa/support/core/Object.h"
+
+namespace VEXA {
+
+void Object::OnFinalRelease() { delete this; }
+
+}  // namespace VEXA

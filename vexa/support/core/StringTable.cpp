@@ -1,0 +1,85 @@
+#include "vexa/support/core/StringTable.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "vexa/support/core/StringFormatStream.h"
+
+namespace VEXA {
+
+namespace {
+
+struct Message {
+    int number;
+    std::string_view text;
+};
+
+// In ascending order of numbers. A message starts in lower case, carries no place of its own (who shows it puts file,
+// line and column in front) and says what would help.
+constexpr Message kMessages[] = {
+    // Files: {0} is the name, {1} the reason that the operating system gives.
+    {1001, R"("{0}" cannot be opened for reading: {1}; check the name and the permissions)"},
+    {1002, R"("{0}" cannot be opened for writing: {1}; check the directory and the permissions)"},
+    {1003, R"(reading "{0}" failed: {1}; check that it is a readable file)"},
+    {1004, R"(writing "{0}" failed: {1}; make room, or write to another place)"},
+    {1005, R"("{0}" cannot be put in place: {1}; check the directory and the permissions)"},
+    {1006, "this stream reads memory of its caller and cannot be written to; write to a memory stream or a file"},
+
+    // States that should not occur.
+    {2001, "{0}"},
+    {2002, "a mandatory object is missing: the document is empty, or an element lacks a child that it needs; add it"},
+    {2029, "the abstract class {0} was instantiated; make an object of one of its descendants"},
+
+    // The XML of a document.
+    {3000, "malformed XML: {0}"},
+    {3001,
+     "document type declarations are refused, because their entities can read files and grow without end; remove "
+     "<!DOCTYPE and write each entity's text in its place"},
+    {3002, R"(the top element "{0}" is unknown; a chart document starts with <root xmlns="{1}">)"},
+    {3003, R"({0}: attribute "{1}": "{2}" is not {3})"},
+    {3004, R"(unknown element "{0}" in "{1}" is skipped; remove it or correct its name)"},
+    {3005, R"(unknown element "{0}" in "{1}" is skipped; did you mean "{2}"?)"},
+    {3006, R"(unknown attribute "{0}" of "{1}" is ignored; remove it or correct its name)"},
+    {3007, R"(unknown attribute "{0}" of "{1}" is ignored; did you mean "{2}"?)"},
+    {3008, R"(a second "{0}" in "{1}" is ignored, the first one is kept; remove one of them)"},
+    {3009, R"(text in "{0}" is ignored; write texts into attributes)"},
+    {3010, "elements are nested deeper than {0}; take some levels out"},
+    {3011, R"("{0}" has more than {1} attributes; remove some)"},
+    {3012, "the document has more than {0} elements; split it"},
+    {3013, "a tag is longer than {0} bytes; shorten its attributes"},
+    {3014, "more than {0} warnings, further ones of this document are left out; correct these first"},
+    {3015, R"(the encoding "{0}" is unknown; save the document as UTF-8, UTF-16, ISO-8859-1 or US-ASCII)"},
+    {3016, R"(element "{0}" is not in the chart namespace; add xmlns="{1}" to the top element)"},
+    {3017, "malformed XML: {0}; <{1}> of line {2} is open here"},
+
+    // Charts.
+    {34000, R"(a spider data point has no axis; give it an "axis-id" that is the "id" of one of the axes)"},
+    {34001,
+     R"(reference "{0}" is not found among the definitions; correct it or define it, rendering goes on without it)"},
+    {34002, R"("{0}" is not a gradient; refer to a linear-gradient or a radial-gradient)"},
+    {34003, R"(href "{0}" leads to a gradient of another kind; linear gradients take stops from linear ones only)"},
+    {34010, R"("{0}" elements are not painted by this version; the rest of the chart is)"},
+    {34011, R"(the view box "{0}" has no extent; write min-x, min-y and a width and a height above 0)"},
+    {34012, R"(a web of {0} rings is too fine, a part of them is drawn; give the spider a larger "unit-frequency")"},
+    {34013, R"(the web has no stroke; to leave the web out, write draw-web="false" in place of web-stroke="none")"},
+    {34014, "a caption breaks into more than {0} lines, the rest is left out; give it more width or a shorter text"},
+};
+
+static_assert(std::is_sorted(std::begin(kMessages), std::end(kMessages),
+                             [](const Message& a, const Message& b) { return a.number < b.number; }));
+
+}  // namespace
+
+std::string_view findMessage(int number) noexcept {
+    const auto* const found = std::lower_bound(std::begin(kMessages), std::end(kMessages), number,
+                                               [](const Message& m, int wanted) { return m.number < wanted; });
+    return found == std::end(kMessages) || found->number != number ? std::string_view() : found->text;
+}
+
+String messageText(int number, const VariantArray& arguments) {
+    const std::string_view text = findMessage(number);
+    if (!text.empty()) return StringFormatStream::format(String(text), arguments);
+    return StringFormatStream::format("message number {0}", {static_cast<std::int64_t>(number)});
+}
+
+}  // namespace VEXA

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "vexa/support/drawing/Color.h"
+
+namespace VEXA {
+
+/// 0xRRGGBB of a colour as CSS writes it: `#rgb`, `#rrggbb`, `rgb(…)` or a colour name, white space at both ends
+/// allowed. Components out of range are cut to it, as CSS does.
+std::optional<std::uint32_t> parseColor(std::string_view text) noexcept;
+
+/// 0xRRGGBB of a CSS colour name in any case.
+std::optional<std::uint32_t> findColorName(std::string_view name) noexcept;
+
+SmartPtr<Color> makeColor(std::uint32_t rgb);
+
+/// Appends `#rrggbb`.
+void appendColor(const Color& color, std::string& out);
+
+}  // namespace VEXA

@@ -1,0 +1,321 @@
+#include "vexa/support/xml/SaxParserImpl.h"
+
+#include <algorithm>
+
+#include "vexa/support/core/Limits.h"
+#include "vexa/support/core/NearestName.h"
+#include "vexa/support/core/QuotedText.h"
+#include "vexa/support/xml/ElementPool.h"
+#include "vexa/support/xml/InheritedValues.h"
+#include "vexa/support/xml/XmlTokenizer.h"
+
+namespace VEXA {
+namespace {
+
+bool isBlank(std::string_view text) noexcept { return text.find_first_not_of(" \t\r\n") == std::string_view::npos; }
+
+String quoted(std::string_view text) { return quoteForMessage(String(text)); }
+
+/// The names of a record's children or attributes, for "did you mean".
+template <class Rows>
+Vector<std::string_view> namesOf(const Rows& rows) {
+    Vector<std::string_view> names;
+    for (const auto& row : rows) {
+        if constexpr (requires { row->getName(); }) {
+            names.push_back(row->getName());
+        } else {
+            names.push_back(row.getName());
+        }
+    }
+    return names;
+}
+
+}  // namespace
+
+class SaxParserImpl::Body final : public XmlTokenHandler, public SaxParserContext {
+public:
+    Body(UnrecognizedElementTreatment unrecognized, bool inheritAttributes, ISAXParserMonitor* monitor,
+         bool collectText, String encoding)
+        : unrecognized_(unrecognized),
+          inheritAttributes_(inheritAttributes),
+          collectText_(collectText),
+          monitor_(monitor),
+          encoding_(std::move(encoding)) {}
+
+    void begin(SmartPtr<IO::Stream> stream) {
+        tokenizer_ = XmlTokenizer::make(std::move(stream), encoding_, *this);
+        pauseAtTop_ = true;
+        run();
+    }
+
+    XmlObjPtr<XmlObject> takeTop() { return std::move(top_); }
+
+    void readContent() {
+        pauseAtTop_ = false;
+        run();
+    }
+
+    SourcePlace getPlace() const override { return tokenizer_->getPlace(); }
+
+    void warn(int code, const VariantArray& arguments, SourcePlace place) override {
+        if (warnings_ > Limits::kWarnings) return;
+        if (++warnings_ > Limits::kWarnings) {
+            tell(Severity::Warning, 3014, {std::int64_t{Limits::kWarnings}}, place);
+        } else {
+            tell(Severity::Warning, code, arguments, place);
+        }
+    }
+
+    void startElement(const XmlNameToken& name, std::span<const XmlAttributeToken> attributes) override {
+        if (frames_.size() + skippedDepth_ >= Limits::kNestingDepth) stop(3010, Limits::kNestingDepth);
+        if (++elements_ > Limits::kElements) stop(3012, Limits::kElements);
+        if (skippedDepth_ > 0 || !open(name, attributes)) ++skippedDepth_;
+        if (pauseAtTop_) tokenizer_->pause();
+    }
+
+    void endElement() override {
+        if (skippedDepth_ > 0) {
+            --skippedDepth_;
+            return;
+        }
+        const Frame frame = frames_.back();
+        frames_.pop_back();
+        inherited_.leave(frame.inheritedMark);
+        frame.object->finalize(*this);
+    }
+
+    void text(std::string_view piece) override {
+        if (skippedDepth_ > 0 || frames_.empty()) return;
+        Frame& frame = frames_.back();
+        if (collectText_) {
+            frame.object->addText(String(piece));
+        } else if (!frame.warnedOfText && !isBlank(piece)) {
+            frame.warnedOfText = true;
+            warn(3009, {frame.info->getElementName(), quoted(piece)}, getPlace());
+        }
+    }
+
+private:
+    struct Frame {
+        XmlObject* object;  // held by its parent, the top one by whoever took it
+        const XmlObjectTypeInfo* info;
+        std::size_t inheritedMark;
+        bool warnedOfText = false;
+    };
+
+    void run() {
+        if (failed_) return;
+        const ElementPool::Scope scope(pool_);
+        try {
+            tokenizer_->run();
+        } catch (const Exception& problem) {
+            failed_ = true;
+            const bool isMalformed = problem.getCode() == 3000 && !frames_.empty() && skippedDepth_ == 0;
+            if (monitor_ != nullptr && problem.getPlace().isKnown()) {
+                report(isMalformed ? withOpenElement(problem) : problem);
+            } else if (isMalformed) {
+                throw withOpenElement(problem);
+            } else {
+                throw;
+            }
+        }
+    }
+
+    void report(const Exception& problem) {
+        monitor_->report({Severity::Error, problem.getCode(), problem.getMessage(), problem.getPlace()});
+    }
+
+    /// Malformed XML is mostly a tag that was not closed: says which element was open.
+    Exception withOpenElement(const Exception& problem) const {
+        VariantArray arguments = problem.getArguments();
+        arguments.emplace_back(frames_.back().info->getElementName());
+        arguments.emplace_back(std::int64_t{frames_.back().object->getPlace().line});
+        Exception told(3017, std::move(arguments));
+        told.initCodeLocation(problem.getCodeLocation().source, problem.getCodeLocation().line);
+        told.setPlace(problem.getPlace());
+        return told;
+    }
+
+    /// False when the element is passed over with all that is in it.
+    bool open(const XmlNameToken& name, std::span<const XmlAttributeToken> attributes) {
+        if (frames_.empty()) return openTop(name, attributes);
+        XmlObject& parent = *frames_.back().object;
+        const XmlElementTypeInfo* const member = frames_.back().info->findElement(name.local);
+        if (member == nullptr || member->getNamespace().uri != name.uri) {
+            tellUnknownElement(name);
+            return false;
+        }
+        if (member->isFull(parent)) {
+            warn(3008, {String(name.local), frames_.back().info->getElementName()}, getPlace());
+            return false;
+        }
+        const XmlObjPtr<XmlObject> child = make(*member->childClass(), &parent, attributes);
+        member->attach(parent, child);
+        return true;
+    }
+
+    bool openTop(const XmlNameToken& name, std::span<const XmlAttributeToken> attributes) {
+        const XmlObjectTypeInfo* const info = XmlObjectFactory::get()->findTypeInfo({name.uri, name.local});
+        if (info == nullptr) {
+            tellUnknownTop(name);
+            return false;
+        }
+        top_ = make(*info, nullptr, attributes);
+        return true;
+    }
+
+    XmlObjPtr<XmlObject> make(const XmlObjectTypeInfo& info, XmlObject* parent,
+                              std::span<const XmlAttributeToken> attributes) {
+        XmlObjPtr<XmlObject> object = info.createObject();
+        object->setPlace(getPlace());
+        object->initialize(XmlObjPtr<XmlObject>(parent), *this);
+        frames_.push_back({object.get(), &info, inherited_.mark()});
+        for (const XmlAttributeToken& attribute : attributes) setAttribute(*object, info, attribute);
+        if (inheritAttributes_) inherited_.hand(*object, info);
+        return object;
+    }
+
+    void setAttribute(XmlObject& object, const XmlObjectTypeInfo& info, const XmlAttributeToken& token) {
+        const std::string_view name = token.name.local;
+        const bool foreign = !token.name.uri.empty() && token.name.uri != info.getNamespace().uri;
+        if (const auto* const attribute = foreign ? nullptr : info.findAttribute(name)) {
+            XmlValueBox* const value = parse(attribute->getType(), info, token);
+            if (value == nullptr) return;
+            if (attribute->isInherited()) carry(attribute->inheritableId(), attribute->getType(), *value, info);
+            attribute->setGiven(object, value);
+        } else if (const int id = foreign ? -1 : XmlObjectFactory::instance().findInheritable(name); id >= 0) {
+            const XmlValueType& type =
+                *XmlObjectFactory::instance().inheritableNames()[static_cast<std::size_t>(id)].type;
+            XmlValueBox* const value = parse(type, info, token);
+            if (value == nullptr) return;
+            carry(id, type, *value, info);
+            type.release(value);
+        } else {
+            object.handleUnrecognizedAttribute(String(name), String(token.name.uri), String(token.value));
+            // Attributes of other namespaces are other programs' business.
+            if (!foreign) tellUnknownAttribute(info, name);
+        }
+    }
+
+    void carry(int id, const XmlValueType& type, XmlValueBox& value, const XmlObjectTypeInfo& info) {
+        if (info.hasChildren()) inherited_.carry(id, type, value);
+    }
+
+    XmlValueBox* parse(const XmlValueType& type, const XmlObjectTypeInfo& info, const XmlAttributeToken& token) {
+        if (token.value.size() > Limits::kTagBytes) stop(3013, Limits::kTagBytes);
+        XmlValueBox* const value = type.parse(token.value);
+        if (value == nullptr) {
+            fail(3003,
+                 {info.getElementName(), String(token.name.local), quoted(token.value), String(type.expectation())});
+        }
+        return value;
+    }
+
+    void tellUnknownTop(const XmlNameToken& name) {
+        const XmlNamespace& space = vocabulary();
+        if (name.uri != space.uri && XmlObjectFactory::instance().findTypeInfo({space.uri, name.local}) != nullptr) {
+            fail(3016, {quoted(name.local), String(space.uri)});
+        } else {
+            fail(3002, {quoted(name.local), String(space.uri)});
+        }
+    }
+
+    void tellUnknownElement(const XmlNameToken& name) {
+        const XmlObjectTypeInfo& info = *frames_.back().info;
+        if (unrecognized_ == UnrecognizedElementTreatment::SkipSilently) return;
+        const bool refuse = unrecognized_ == UnrecognizedElementTreatment::Refuse;
+        if (info.findElement(name.local) != nullptr) {
+            problem(refuse, 3016, {quoted(name.local), String(info.getNamespace().uri)});
+            return;
+        }
+        const std::string_view near = nearestName(name.local, namesOf(info.elements()));
+        VariantArray arguments{quoted(name.local), info.getElementName()};
+        if (!near.empty()) arguments.emplace_back(String(near));
+        problem(refuse, near.empty() ? 3004 : 3005, std::move(arguments));
+    }
+
+    void tellUnknownAttribute(const XmlObjectTypeInfo& info, std::string_view name) {
+        Vector<std::string_view> known = namesOf(info.attributes());
+        for (const auto& inheritable : XmlObjectFactory::instance().inheritableNames())
+            known.push_back(inheritable.name);
+        const std::string_view near = nearestName(name, known);
+        VariantArray arguments{quoted(name), info.getElementName()};
+        if (!near.empty()) arguments.emplace_back(String(near));
+        warn(near.empty() ? 3006 : 3007, arguments, getPlace());
+    }
+
+    /// The namespace of the registered classes.
+    static const XmlNamespace& vocabulary() noexcept {
+        static constexpr XmlNamespace none{};
+        const auto& infos = XmlObjectFactory::instance().typeInfos();
+        return infos.empty() ? none : infos.front()->getNamespace();
+    }
+
+    void problem(bool isError, int code, VariantArray arguments) {
+        if (isError) {
+            fail(code, std::move(arguments));
+        } else {
+            warn(code, arguments, getPlace());
+        }
+    }
+
+    /// Told to the monitor, which collects errors; thrown when there is none.
+    void fail(int code, VariantArray arguments) {
+        if (monitor_ == nullptr) raise(Exception(code, std::move(arguments)), "SaxParserImpl", __LINE__, getPlace());
+        if (errors_ < Limits::kWarnings) tell(Severity::Error, code, arguments, getPlace());
+        ++errors_;
+    }
+
+    /// A limit: nothing after it is read.
+    [[noreturn]] void stop(int code, std::size_t limit) {
+        raise(Exception(code, {static_cast<std::int64_t>(limit)}), "SaxParserImpl", __LINE__, getPlace());
+    }
+
+    void tell(Severity severity, int code, const VariantArray& arguments, SourcePlace place) {
+        const LogRecord record{severity, code, Exception(code, arguments).getMessage(), place};
+        if (monitor_ != nullptr) {
+            monitor_->report(record);
+        } else {
+            Log::write(record);
+        }
+    }
+
+    UnrecognizedElementTreatment unrecognized_;
+    bool inheritAttributes_;
+    bool collectText_;
+    bool pauseAtTop_ = false;
+    bool failed_ = false;
+    ISAXParserMonitor* monitor_;
+    String encoding_;
+    ElementPool pool_;
+    std::unique_ptr<XmlTokenizer> tokenizer_;
+    XmlObjPtr<XmlObject> top_;
+    Vector<Frame> frames_;
+    InheritedValues inherited_;
+    std::size_t skippedDepth_ = 0;
+    std::size_t elements_ = 0;
+    std::size_t warnings_ = 0;
+    std::size_t errors_ = 0;
+};
+
+SaxParserImpl::SaxParserImpl(UnrecognizedElementTreatment unrecognized, bool inheritAttributes,
+                             ISAXParserMonitor* monitor, bool collectText, String encoding)
+    : body_(std::make_unique<Body>(unrecognized, inheritAttributes, monitor, collectText, std::move(encoding))) {}
+
+SaxParserImpl::~SaxParserImpl() = default;
+
+void SaxParserImpl::startParsing(SmartPtr<IO::Stream> stream) { body_->begin(std::move(stream)); }
+
+XmlObjPtr<XmlObject> SaxParserImpl::parseNextChild(SmartPtr<XmlObject> parent, bool withContent) {
+    if (parent) raise(UnreacheableCodeException("a parent in parseNextChild"), "SaxParserImpl", __LINE__);
+    XmlObjPtr<XmlObject> top = body_->takeTop();
+    if (top && withContent) body_->readContent();
+    return top;
+}
+
+void SaxParserImpl::parseChildContent(SmartPtr<XmlObject> element) {
+    if (!element) throwEmptySmartPtr();
+    body_->readContent();
+}
+
+}  // namespace VEXA

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "vexa/support/core/Vector.h"
+#include "vexa/support/drawing/Matrix.h"
+#include "vexa/support/values/Transform.h"
+
+namespace VEXA {
+
+/// Arithmetic of scales and transforms. Nothing here throws, and every loop ends for every input.
+class Util {
+public:
+    Util() = delete;
+
+    /// The next round value beyond `value`, away from zero, in single precision; a round value moves on too: 10 gives
+    /// 12, 19.2 gives 25, 1234 gives 1400. 0 gives 0. Results are cut to the range of finite floats, infinity's too;
+    /// NaN gives 0.
+    static double adjustValueRange(double value);
+
+    /// Moves an axis's bounds outwards onto multiples of `step`: counted from 0, which the range then includes, when
+    /// `min` is 0 or below, else from `min`, which then stays. Sums are rounded to single precision at each of the
+    /// first hundred thousand steps; farther bounds go to the multiple that is nearest in double precision. Results are
+    /// finite. With a bound that is not finite, or a step that is not finite and above 0, nothing changes.
+    static void adjustValueRange(float& min, float& max, float step);
+
+    /// The smallest of 0.1, 0.2, 0.5, 1, 2, 5, 10, … that is not below `value`. 0.1 for NaN; the largest float beyond
+    /// the last member, 2e38.
+    static float getNextFrequencyUnit(float value);
+
+    /// `total` divided by `parts`, rounded up and cut to the range of int; `total` itself for no parts.
+    static int getIntMinUnit(int total, int parts);
+
+    /// The smallest step of the series of getNextFrequencyUnit that divides a span into about `parts` pieces at most.
+    /// 0 for a span of 0; 0.1 for a negative span, for NaN, and for 0 parts or less.
+    static float getFloatMinUnit(float span, int parts);
+
+    /// Multiplies the transforms into the matrix in their order, as SVG does; an unknown kind changes nothing.
+    static void addTransformationList(Matrix& matrix, const Vector<Transform>& transforms);
+};
+
+}  // namespace VEXA
