@@ -116,9 +116,9 @@ TEST(SpiderScale, RingsRunFromTheMinimumToTheMaximum) {
         {{16777216, 16777220}, 0.5F, "16777216 16777218 16777220", "a step below what a float can hold"},
     };
     for (const auto& c : cases) {
-        const WebRings rings = spiderWebRings(c.scale, c.step);
+        const WebRings rings = spiderWebRings(c.scale, c.step, Limits::kWebRings);
         EXPECT_EQ(shown(rings.values), c.values) << c.why;
-        EXPECT_FALSE(rings.isThinned()) << c.why;
+        EXPECT_FALSE(rings.isThinned) << c.why;
     }
 }
 
@@ -128,7 +128,7 @@ TEST(SpiderScale, NothingThatIsNoNumberHangsTheWeb) {
     for (const SpiderScale scale :
          {SpiderScale{nan, 1}, {0, nan}, {0, infinity}, {-infinity, 0}, {-infinity, infinity}}) {
         for (const float step : {1.0F, 1e-30F, infinity, nan}) {
-            EXPECT_LE(spiderWebRings(scale, step).values.size(), Limits::kWebRings + 1);
+            EXPECT_LE(spiderWebRings(scale, step, Limits::kWebRings).values.size(), Limits::kWebRings + 1);
         }
         static_cast<void>(spiderRingStep(scale, nan, nan));
     }
@@ -137,13 +137,13 @@ TEST(SpiderScale, NothingThatIsNoNumberHangsTheWeb) {
 }  // namespace
 
 TEST(Limits, WebRings) {
-    const WebRings full = spiderWebRings({0, 9999}, 1);
+    const WebRings full = spiderWebRings({0, 9999}, 1, Limits::kWebRings);
     EXPECT_EQ(full.values.size(), Limits::kWebRings);
-    EXPECT_FALSE(full.isThinned());
+    EXPECT_FALSE(full.isThinned);
 
     // 1e12 rings are wanted: every 100,010,001st of them is drawn, and the outermost one.
-    const WebRings thinned = spiderWebRings({0, 1e6F}, 1e-6F);
-    EXPECT_TRUE(thinned.isThinned());
+    const WebRings thinned = spiderWebRings({0, 1e6F}, 1e-6F, Limits::kWebRings);
+    EXPECT_TRUE(thinned.isThinned);
     EXPECT_NEAR(thinned.wanted, 1e12, 1e6);
     EXPECT_EQ(thinned.values.size(), Limits::kWebRings);
     EXPECT_EQ(thinned.values.back(), 1e6F);
@@ -158,6 +158,15 @@ TEST(Limits, WebRings) {
         << "the rings and the series";
     EXPECT_EQ(log.codes(), "34012");
     EXPECT_EQ(log.records.front().place.line, 1U);
+}
+
+TEST(Limits, WebCorners) {
+    EXPECT_EQ(spiderMostRings(0), Limits::kWebRings);
+    EXPECT_EQ(spiderMostRings(100), Limits::kWebRings) << "a hundred axes may have all of them";
+    EXPECT_EQ(spiderMostRings(100'000), 10U);
+    EXPECT_EQ(spiderMostRings(5'000'000), 2U) << "the innermost and the outermost ring stay";
+    EXPECT_EQ(Testing::shown(spiderWebRings({0, 100}, 1, 10).values), "0 12 24 36 48 60 72 84 96 100")
+        << "every twelfth step is the first that leaves ten rings";
 }
 
 }  // namespace VEXA

@@ -11,7 +11,6 @@ namespace VEXA {
 
 namespace {
 
-constexpr double kMaxRings = static_cast<double>(Limits::kWebRings);
 constexpr float kPixelsPerRing = 4.0F;
 constexpr double kSameRing = 1e-4;  // of a step: rounding must not draw the outermost ring twice
 
@@ -62,18 +61,21 @@ float spiderRingStep(const SpiderScale& scale, float radius, float wanted) noexc
     return static_cast<float>(whole);
 }
 
-bool WebRings::isThinned() const noexcept { return wanted > kMaxRings; }
+std::size_t spiderMostRings(std::size_t axisCount) noexcept {
+    return std::clamp(Limits::kWebCorners / std::max<std::size_t>(axisCount, 1), std::size_t{2}, Limits::kWebRings);
+}
 
-WebRings spiderWebRings(const SpiderScale& scale, float step) {
-    WebRings rings{{scale.min}, 1};
+WebRings spiderWebRings(const SpiderScale& scale, float step, std::size_t mostRings) {
+    WebRings rings{{scale.min}};
     const double extent = static_cast<double>(scale.max) - scale.min;
     double spacing = step;
     if (spacing != 0 && extent > 0) {
         const double steps = std::ceil(extent / spacing - kSameRing);
         rings.wanted = steps + 1;
-        if (rings.isThinned()) spacing *= std::ceil(steps / (kMaxRings - 1));
+        rings.isThinned = rings.wanted > static_cast<double>(mostRings);
+        if (rings.isThinned) spacing *= std::ceil(steps / (static_cast<double>(mostRings) - 1));
         const double last = scale.max - spacing * kSameRing;
-        for (std::size_t i = 1; i < Limits::kWebRings; ++i) {
+        for (std::size_t i = 1; i < mostRings; ++i) {
             const auto value = static_cast<float>(scale.min + static_cast<double>(i) * spacing);
             if (!(value < last)) break;
             if (value > rings.values.back()) rings.values.push_back(value);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "vexa/support/core/Vector.h"
 
 namespace VEXA {
@@ -42,13 +44,15 @@ float spiderRingStep(const SpiderScale& scale, float radius, float wanted) noexc
 /// The values at which rings are drawn, from the innermost to the outermost.
 struct WebRings {
     Vector<float> values;
-    double wanted = 0;  ///< how many rings the step asks for
-
-    bool isThinned() const noexcept;
+    double wanted = 1;  ///< how many rings the step asks for
+    bool isThinned = false;
 };
 
-/// Every step from `scale.min` on, then `scale.max`. Where that would be more than Limits::kWebRings, the step is
-/// widened to a multiple of itself: what is drawn is then a part of what was asked for, the outermost ring included.
-WebRings spiderWebRings(const SpiderScale& scale, float step);
+/// How many rings a web may have: Limits::kWebRings, fewer where many axes give each ring many corners, never below 2.
+std::size_t spiderMostRings(std::size_t axisCount) noexcept;
+
+/// Every step from `scale.min` on, then `scale.max`. Where that would be more than `mostRings`, the step is widened to
+/// a multiple of itself: what is drawn is then a part of what was asked for, the outermost ring included.
+WebRings spiderWebRings(const SpiderScale& scale, float step, std::size_t mostRings);
 
 }  // namespace VEXA

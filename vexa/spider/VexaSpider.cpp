@@ -77,8 +77,8 @@ Vector<float> VexaSpider::getWebValues(VexaRenderContext& context) { return getW
 
 Vector<float> VexaSpider::getWebValues(const SpiderLayout& layout) {
     const float step = spiderRingStep(layout.scale(), layout.radius(), *unitFrequency_);
-    WebRings rings = spiderWebRings(layout.scale(), step);
-    if (rings.isThinned()) Log::warning(34012, {rings.wanted}, getPlace());
+    WebRings rings = spiderWebRings(layout.scale(), step, spiderMostRings(layout.axisCount()));
+    if (rings.isThinned) Log::warning(34012, {rings.wanted}, getPlace());
     return std::move(rings.values);
 }
 

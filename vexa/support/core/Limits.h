@@ -20,6 +20,8 @@ inline constexpr std::size_t kWarnings = 100;
 inline constexpr std::size_t kQuotedCharacters = 80;
 /// Rings of a web. A step of 1e-6 over 1e6 would ask for 1e12 of them. Test: Limits.WebRings
 inline constexpr std::size_t kWebRings = 10'000;
+/// Corners of all rings of one web; ten thousand rings of a hundred thousand axes would be 1e9. Test: Limits.WebCorners
+inline constexpr std::size_t kWebCorners = 1'000'000;
 /// Lines of a caption: a width of 0.001 px would break a long text into millions. Test: Limits.CaptionLines
 inline constexpr std::size_t kCaptionLines = 10'000;
 /// Characters of a number pattern, and of a separator or a sign in it: 100,000 labels could each repeat a pattern of a
