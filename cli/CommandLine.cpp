@@ -4,6 +4,8 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include "cli/Messages.h"
+
 namespace VEXA::Cli {
 namespace {
 
@@ -48,7 +50,7 @@ CommandLine answer(const CLI::App& app, const CLI::ParseError& end) {
     const bool isHelp = end.get_name() == "CallForHelp" || end.get_name() == "CallForAllHelp";
     if (isHelp) return {{}, chosen.empty() ? app.help() : command.help("vexa"), kDone};
     if (end.get_name() == "CallForVersion") return {{}, std::string(end.what()) + "\n", kDone};
-    return {{}, name + ": " + end.what() + "\n" + name + " --help tells how.\n", kWrongUsage};
+    return {{}, name + ": " + printable(end.what()) + "\n" + name + " --help tells how.\n", kWrongUsage};
 }
 
 }  // namespace

@@ -9,23 +9,50 @@
 namespace VEXA::Cli {
 namespace {
 
-/// Passes a document on, and knows afterwards whether there was anything in it.
+/// Passes a document on, and knows afterwards whether there was an element in it.
 class DocumentStream final : public IO::Stream {
 public:
     explicit DocumentStream(SmartPtr<IO::Stream> source) : source_(std::move(source)) {}
 
     std::size_t read(void* buffer, std::size_t size) override {
         const std::size_t count = source_->read(buffer, size);
-        isEmpty_ = isEmpty_ && count == 0;
+        const std::string_view bytes(static_cast<const char*>(buffer), count);
+        for (std::size_t i = 0; i < count && state_ != State::Element; ++i) see(bytes[i]);
         return count;
     }
     void write(const void* data, std::size_t size) override { source_->write(data, size); }
 
-    bool isEmpty() const noexcept { return isEmpty_; }
+    bool hasElement() const noexcept { return state_ == State::Element; }
 
 private:
+    enum class State : std::uint8_t { Outside, Comment, Instruction, Element };
+
+    bool endsWith(std::string_view end) const noexcept { return std::string_view(last_).ends_with(end); }
+    void enter(State state) noexcept {
+        state_ = state;
+        last_.assign(kLongestMark, ' ');
+    }
+
+    /// What stands before the first element: blanks, comments and instructions.
+    void see(char byte) {
+        if (byte == '\0') return;  // half of a character in UTF-16
+        last_.erase(0, 1);
+        last_ += byte;
+        if (state_ == State::Comment || state_ == State::Instruction) {
+            if (endsWith(state_ == State::Comment ? "-->" : "?>")) enter(State::Outside);
+        } else if (endsWith("<!--")) {
+            enter(State::Comment);
+        } else if (endsWith("<?")) {
+            enter(State::Instruction);
+        } else if (last_[kLongestMark - 2] == '<' && byte != '!') {
+            enter(State::Element);
+        }
+    }
+
+    static constexpr std::size_t kLongestMark = 4;
     SmartPtr<IO::Stream> source_;
-    bool isEmpty_ = true;
+    State state_ = State::Outside;
+    std::string last_ = std::string(kLongestMark, ' ');
 };
 
 SmartPtr<IO::Stream> openInput(const std::string& input) {
@@ -38,10 +65,20 @@ void writeOutput(const std::string& output, std::string_view bytes) {
     IO::FileStream::standardOutput()->write(bytes.data(), bytes.size());
 }
 
+/// Paints; where there is no element, the engine misses an object, and the reader of the message needs plainer words.
+void paintFrom(DocumentStream& document, const Painter& paint, SmartPtr<RenderContext> surface) {
+    try {
+        paint(&document, std::move(surface));
+    } catch (const NullPointerException& error) {
+        if (error.getPlace().isKnown() || document.hasElement()) throw;
+        raise(UnreacheableCodeException("the document is empty; a chart document starts with the element root"),
+              "DocumentRenderer", __LINE__, {1, 1});
+    }
+}
+
 /// A document without a usable top element has no element that could be named, so its start is.
 SourcePlace placeOf(const Exception& error) {
-    const std::string_view source = error.getCodeLocation().source;
-    const bool wholeDocument = source == "VexaEngine" || source == "SmartPtr";
+    const bool wholeDocument = std::string_view(error.getCodeLocation().source) == "VexaEngine";
     return wholeDocument && !error.getPlace().isKnown() ? SourcePlace{1, 1} : error.getPlace();
 }
 
@@ -63,16 +100,11 @@ bool succeeds(Step step, Tell tell) {
 
 /// The picture in memory, so that a document that fails leaves no file.
 bool paintDocument(const RenderJob& job, const Painter& paint, IO::MemoryStream& picture, MessageCollector& messages) {
-    SmartPtr<DocumentStream> document;
     const auto load = [&] {
-        document = make<DocumentStream>(openInput(job.input));
-        paint(document, makeSurface(job.format, &picture));
+        const auto document = make<DocumentStream>(openInput(job.input));
+        paintFrom(*document, paint, makeSurface(job.format, &picture));
     };
-    return succeeds(load, [&](SourcePlace place, std::string_view text) {
-        const bool isEmpty = place.isKnown() && document && document->isEmpty();
-        messages.addError(place,
-                          isEmpty ? "the document is empty; a chart document starts with the element root" : text);
-    });
+    return succeeds(load, [&](SourcePlace place, std::string_view text) { messages.addError(place, text); });
 }
 
 bool writePicture(const RenderJob& job, const IO::MemoryStream& picture, MessageCollector& messages) {

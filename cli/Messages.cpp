@@ -1,36 +1,21 @@
 #include "cli/Messages.h"
 
 #include "cli/RenderOptions.h"
+#include "vexa/support/core/QuotedText.h"
 
 namespace VEXA::Cli {
-namespace {
 
-void appendShown(std::string_view text, std::string& out) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte >= 0x20 && byte != 0x7F) {
-            out += character;
-        } else {
-            out += {'\\', 'x', kDigits[byte >> 4U], kDigits[byte & 0xFU]};
-        }
-    }
-}
-
-}  // namespace
+std::string printable(std::string_view text) { return escapeForMessage(String(text)).toUtf8(); }
 
 std::string inputName(const std::string& file) { return file == kStandardStream ? "<stdin>" : file; }
 
 std::string outputName(const std::string& file) { return file == kStandardStream ? "<stdout>" : file; }
 
 std::string messageLine(std::string_view file, SourcePlace place, Severity severity, std::string_view text) {
-    std::string line;
-    appendShown(file, line);
+    std::string line = printable(file);
     if (place.isKnown()) line += ":" + std::to_string(place.line) + ":" + std::to_string(place.column);
     line += severity == Severity::Error ? ": error: " : ": warning: ";
-    appendShown(text, line);
-    line += '\n';
-    return line;
+    return line + printable(text) + '\n';
 }
 
 void MessageCollector::write(const LogRecord& record) {

@@ -11,8 +11,11 @@ namespace VEXA::Cli {
 std::string inputName(const std::string& file);
 std::string outputName(const std::string& file);
 
-/// `file:line:column: warning: text` with a line feed; without the place when it is not known. Control characters in it
-/// are shown as escapes, so that a message is one line and cannot steer a terminal.
+/// One line of text with its invisible characters as escapes, so that a name in it cannot steer a terminal.
+std::string printable(std::string_view text);
+
+/// `file:line:column: warning: text` with a line feed; without the place when it is not known. All of it is
+/// printable.
 std::string messageLine(std::string_view file, SourcePlace place, Severity severity, std::string_view text);
 
 /// Collects the messages about one document, so that those of documents drawn at the same time do not mix. Errors that

@@ -46,7 +46,7 @@ std::size_t runPlan(const RenderPlan& plan, unsigned threads, const Painter& pai
 ExitStatus render(const RenderOptions& options, const Painter& paint, Console& console) {
     const RenderPlan plan = planRender(options);
     if (!plan.problem.empty()) {
-        console.write("vexa render: " + plan.problem + "\nvexa render --help tells how.\n");
+        console.write("vexa render: " + printable(plan.problem) + "\nvexa render --help tells how.\n");
         return kWrongUsage;
     }
     if (const std::string problem = makeDirectory(options.outputDirectory); !problem.empty()) {

@@ -24,8 +24,15 @@ TEST(Messages, AreOneLineThatStartsWithThePlace) {
          {1, 1},
          Severity::Error,
          "x\x1b[2J\x7f",
-         "a\\x0ab.xml:1:1: error: x\\x1b[2J\\x7f\n",
+         "a\\nb.xml:1:1: error: x\\u001b[2J\\u007f\n",
          "nothing in a name or a text starts a line or steers the terminal"},
+        {"\u009b2J\u202elmx.a",
+         {},
+         Severity::Error,
+         "no",
+         "\\u009b2J\\u202elmx.a: error: no\n",
+         "written as UTF-8 too"},
+        {"\x9b.xml", {}, Severity::Error, "no", "\uFFFD.xml: error: no\n", "nor the single byte of other encodings"},
         {"ä.xml", {}, Severity::Error, "ö", "ä.xml: error: ö\n", "UTF-8 stays as it is"},
     };
     for (const Case& testCase : cases) {

@@ -33,7 +33,7 @@ void drawPage(RenderContext& surface) {
 /// Stands for the engine: the text of a document says what happens to it.
 void paintByText(SmartPtr<IO::Stream> stream, SmartPtr<RenderContext> surface) {
     const std::string text = readAll(*stream);
-    if (text.empty()) SmartPtr<Object>()->AddRef();
+    if (text.find("nothing") != std::string::npos || text.empty()) SmartPtr<Object>()->AddRef();
     if (text == "warns") Log::warning(kFreeText, {String("odd")}, {3, 4});
     if (text == "broken") {
         Log::warning(kFreeText, {String("first")}, {1, 2});
@@ -67,6 +67,14 @@ TEST(RenderCommand, TellsWhatFailsInOneLineWithItsPlaceAndLeavesNoFile) {
     const Case cases[] = {
         {"broken", ":1:2: warning: first\n@:5:6: error: bad value\n", "warnings before it are told, the error once"},
         {"", ":1:1: error: the document is empty; a chart document starts with the element root\n", "plain words"},
+        {"\n<!-- <nothing/> -->\n<?i <nothing/>?>",
+         ":1:1: error: the document is empty; a chart document starts with the element root\n",
+         "tags in comments and instructions are no elements"},
+        {"<!----><nothing/>",
+         ": error: a mandatory object is missing: the document is empty, or an element lacks a child that it needs; "
+         "add "
+         "it\n",
+         "an object is missing where there are elements"},
         {"no root", ":1:1: error: the top element is not root\n", "the document as a whole is wrong"},
         {"placeless", ": error: somewhere\n", "no place is better than a wrong one"},
         {"huge", ": error: there is not enough memory\n", "what others throw is told too"},
@@ -153,6 +161,7 @@ TEST(RenderCommand, DoesNothingWhenTheUsageIsWrong) {
     const TestDirectory directory;
     const std::string chart = directory.write("a.xml", "fine");
     const Outcome outcome = run({{chart, chart}, "", directory.path("out"), "", 0});
+    EXPECT_EQ(run({{chart}, "a.\u009b", "", "", 0}).messages.find("\u009b"), std::string::npos) << "no raw controls";
     EXPECT_EQ(outcome.status, kWrongUsage);
     EXPECT_EQ(outcome.messages.rfind("vexa render: ", 0), 0U);
     EXPECT_EQ(directory.entryCount(), 1U) << "not even the directory is made";

@@ -97,6 +97,14 @@ TEST(Docs, LinksLeadSomewhere) {
     EXPECT_GT(count, 5U);
 }
 
+TEST(Docs, ThePictureOfTheReadmeIsItsExample) {
+    const fs::path picture = fs::path(VEXA_TEST_OUTPUT) / "radar.svg";
+    EXPECT_EQ(outputOf(VEXA_DRAW_CHART " " VEXA_SOURCE_DIR "/examples/team-skills.xml " + picture.string() + " 2>&1"),
+              "");
+    EXPECT_TRUE(contentOf(picture) == contentOf(kSource / "docs/images/radar.svg"))
+        << "make demo, look at it, then copy out/team-skills.svg to docs/images/radar.svg";
+}
+
 TEST(Docs, TheChartAndTheProgramOfTheReadmeMakeAPicture) {
     const fs::path picture = fs::path(VEXA_TEST_OUTPUT) / "espresso.svg";
     fs::remove(picture);

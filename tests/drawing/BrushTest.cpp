@@ -9,6 +9,9 @@
 namespace VEXA {
 namespace {
 
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+
 SmartPtr<Color> red() { return make<RGBColor>(255, 0, 0); }
 
 TEST(Brush, ACloneHasTheSameLookAndALifeOfItsOwn) {
@@ -29,28 +32,16 @@ TEST(Brush, ACloneHasTheSameLookAndALifeOfItsOwn) {
     EXPECT_EQ(copy.getSpreadMethod(), GradientSpreadMethod::Repeat);
     EXPECT_EQ(copy.getMatrix(), Matrix(2, 0, 0, 2, 0, 0));
     EXPECT_EQ(copy.getOpacity(), 0.75F);
-    ASSERT_EQ(copy.getStops().size(), 1U);
-    EXPECT_EQ(copy.getStops()[0].color.get(), original->getStops()[0].color.get())
-        << "colours never change, so they are shared";
-    EXPECT_EQ(clone->referenceCount(), 1U) << "references to the original are not those to the clone";
-}
+    EXPECT_EQ(copy.getStops().size(), 1U);
+    EXPECT_EQ(original->getMatrix(), Matrix(2, 0, 0, 2, 14, 14)) << "the earlier scale enlarges the later translation";
 
-TEST(Brush, ClonesOfTheOtherKinds) {
     const SmartPtr<Brush> solid = make<SolidColorBrush>(red(), 0.5F)->clone();
     EXPECT_EQ(solid->getBrushType(), BrushType::SolidColor);
     EXPECT_EQ(solid->getOpacity(), 0.5F);
     const SmartPtr<Brush> radial =
-        make<RadialGradientBrush>(1.0F, 2.0F, 3.0F, 4.0F, GradientUnits(), GradientSpreadMethod::Pad)->clone();
+        make<RadialGradientBrush>(1.0F, 2.0F, 3.0F, 4.0F, GradientUnits(), GradientSpreadMethod())->clone();
     EXPECT_TRUE(static_cast<const GradientBrush&>(*radial).isRadial());
     EXPECT_EQ(static_cast<const RadialGradientBrush&>(*radial).radii(), (SizeF{3, 4}));
-}
-
-TEST(Brush, GradientTransformsMultiplyFromTheRight) {
-    const auto gradient = make<LinearGradientBrush>(0.0F, 0.0F, 1.0F, 0.0F, GradientUnits(), GradientSpreadMethod());
-    gradient->addMatrixTransform(2, 0, 0, 2, 0, 0);
-    gradient->addMatrixTransform(1, 0, 0, 1, 10, 0);
-    EXPECT_EQ(gradient->getMatrix(), Matrix(2, 0, 0, 2, 20, 0))
-        << "the later translation is scaled by the earlier scale";
 }
 
 TEST(Brush, PaintsWithAColorOnly) {
@@ -70,44 +61,32 @@ TEST(Stroke, OpacityIsSetOnABrushOfItsOwn) {
     stroke.setOpacity(0.5F);
     EXPECT_EQ(shared->getOpacity(), 1.0F) << "others still paint with it";
     EXPECT_EQ(stroke.getBrush()->getOpacity(), 0.5F);
-
-    Stroke none(nullptr, 2);
-    none.setOpacity(0.5F);
-    EXPECT_TRUE(none.getBrush().isEmpty());
+    Stroke(nullptr, 2).setOpacity(0.5F);
 }
 
 TEST(Stroke, PaintsWithABrushAndAThickness) {
-    const SmartPtr<Brush> brush = make<SolidColorBrush>(red());
-    EXPECT_TRUE(Stroke(brush, 0.001F).paints());
-    for (const float thickness :
-         {0.0F, -1.0F, std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {
-        EXPECT_FALSE(Stroke(brush, thickness).paints()) << thickness;
+    EXPECT_TRUE(Stroke(make<SolidColorBrush>(red()), 0.001F).paints());
+    for (const float thickness : {0.0F, -1.0F, kNaN, kInfinity}) {
+        EXPECT_FALSE(Stroke(make<SolidColorBrush>(red()), thickness).paints()) << thickness;
     }
     EXPECT_FALSE(Stroke(nullptr, 1).paints());
     EXPECT_FALSE(Stroke(make<SolidColorBrush>(nullptr), 1).paints());
 }
 
 TEST(Stroke, IsDashedWhenTheLengthsSaySomething) {
-    struct Case {
-        const char* why;
-        Vector<float> lengths;
-        bool isDashed;
-    };
-    const float big = std::numeric_limits<float>::max();
-    for (const auto& [why, lengths, isDashed] : {
-             Case{"none", {}, false},
-             Case{"one is as long as its gap", {5}, true},
-             Case{"only gaps of no length", {0, 0}, false},
-             Case{"dots", {0, 4}, true},
-             Case{"a negative length spoils all", {5, -1, 5}, false},
-             Case{"as does an infinite one", {5, std::numeric_limits<float>::infinity()}, false},
-             Case{"and one that is no number", {std::numeric_limits<float>::quiet_NaN()}, false},
-             Case{"the sum may leave single precision", {big, big}, true},
-         }) {
-        Stroke stroke(make<SolidColorBrush>(red()), 1);
+    const auto isDashed = [](const Vector<float>& lengths) {
+        Stroke stroke(nullptr, 1);
         stroke.setDashArray(lengths);
-        EXPECT_EQ(stroke.isDashed(), isDashed) << why;
-    }
+        return stroke.isDashed();
+    };
+    EXPECT_TRUE(isDashed({5})) << "one is as long as its gap";
+    EXPECT_TRUE(isDashed({0, 4})) << "dots";
+    EXPECT_TRUE(isDashed({3e38F, 3e38F})) << "the sum may leave single precision";
+    EXPECT_FALSE(isDashed({})) << "none";
+    EXPECT_FALSE(isDashed({0, 0})) << "only gaps of no length";
+    EXPECT_FALSE(isDashed({5, -1, 5})) << "a negative length spoils all";
+    EXPECT_FALSE(isDashed({5, kInfinity})) << "as does an infinite one";
+    EXPECT_FALSE(isDashed({kNaN})) << "and one that is no number";
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "tests/engine/EngineTestTools.h"
 
-#include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -45,42 +43,39 @@ void readPath(const std::string& data, std::string& verbs, std::string& points) 
     points = shown(read);
 }
 
-void readShape(const Json& line, DrawCall& call) {
-    for (const auto& [key, value] : line.items()) {
-        if (value.is_number()) call.numbers[key] = value;
-    }
-    if (line.contains("text")) call.text = line.at("text");
-    if (line.contains("d")) readPath(line.at("d"), call.verbs, call.points);
-    if (call.op == "line") {
-        const auto& n = call.numbers;
-        call.points = shown(n.at("x1")) + ',' + shown(n.at("y1")) + ' ' + shown(n.at("x2")) + ',' + shown(n.at("y2"));
-    }
-}
-
 DrawCall parseCall(const std::string& text) {
     const Json line = Json::parse(text);
     DrawCall call;
     call.op = line.at("op");
     call.json = text;
-    readShape(line, call);
+    const auto number = [&](const char* key) { return line.contains(key) ? shown(line.at(key).get<double>()) : ""; };
+    call.origin = number("x") + ',' + number("y");
+    call.box = call.origin + ' ' + number("width") + " x " + number("height");
+    call.text = line.value("text", "");
+    if (line.contains("d")) readPath(line.at("d"), call.verbs, call.points);
+    if (call.op == "line") call.points = number("x1") + ',' + number("y1") + ' ' + number("x2") + ',' + number("y2");
     if (line.contains("fill")) call.fill = paintOf(line.at("fill"));
     if (line.contains("stroke")) call.stroke = paintOf(line.at("stroke").at("brush"));
     call.transform = line.contains("transform") ? transformOf(line.at("transform")) : "1 0 0 1 0 0";
     for (const Json& clip : line.value("clip", Json::array())) {
         std::string verbs;
-        call.clips.push_back({{}, transformOf(clip.at("transform"))});
-        readPath(clip.at("d"), verbs, call.clips.back().points);
+        std::string points;
+        readPath(clip.at("d"), verbs, points);
+        call.clips.push_back(points + " | " + transformOf(clip.at("transform")));
     }
     return call;
 }
 
-}  // namespace
-
-std::string DrawCall::origin() const { return shown(numbers.at("x")) + ',' + shown(numbers.at("y")); }
-
-std::string DrawCall::box() const {
-    return origin() + ' ' + shown(numbers.at("width")) + " x " + shown(numbers.at("height"));
+std::string describe(const SmartPtr<Color>& color) {
+    if (color.isEmpty()) return "none";
+    char text[8];
+    std::snprintf(text, sizeof(text), "#%06x", color->rgb());
+    return text;
 }
+
+std::string describe(SourcePlace place) { return std::to_string(place.line) + ':' + std::to_string(place.column); }
+
+}  // namespace
 
 std::string rootWith(const std::string& attributes, const std::string& content) {
     return R"(<root xmlns="http://vexa-charts.org/2008/vx" )" + attributes + ">" + content + "</root>";
@@ -100,24 +95,14 @@ std::string draw(const std::string& xml) {
     return out->bytes();
 }
 
-std::vector<DrawCall> parseCalls(const std::string& displayList) {
-    std::vector<DrawCall> calls;
-    std::istringstream lines(displayList);
-    for (std::string line; std::getline(lines, line);) calls.push_back(parseCall(line));
-    return calls;
-}
-
-std::vector<DrawCall> drawingCalls(const std::string& xml) {
-    std::vector<DrawCall> calls = parseCalls(draw(xml));
-    EXPECT_GE(calls.size(), 4U);
-    calls.erase(calls.begin(), calls.begin() + 2);
-    calls.resize(calls.size() - 2);
-    return calls;
-}
-
 std::vector<DrawCall> drawingCalls(const std::string& xml, const std::string& op) {
-    std::vector<DrawCall> calls = drawingCalls(xml);
-    std::erase_if(calls, [&](const DrawCall& call) { return call.op != op; });
+    std::vector<DrawCall> calls;
+    std::istringstream lines(draw(xml));
+    for (std::string line; std::getline(lines, line);) calls.push_back(parseCall(line));
+    std::erase_if(calls, [&](const DrawCall& call) {
+        const bool isBracket = call.op.starts_with("begin") || call.op.starts_with("end");
+        return op.empty() ? isBracket : call.op != op;
+    });
     return calls;
 }
 
@@ -141,15 +126,92 @@ std::string shown(const std::vector<float>& values) {
     return text;
 }
 
+std::string describe(const SmartPtr<Brush>& brush) {
+    if (brush.isEmpty()) return "empty";
+    if (brush->getBrushType() == BrushType::SolidColor)
+        return describe(static_cast<SolidColorBrush&>(*brush).getColor()) + "/" + shown(brush->getOpacity());
+    auto& gradient = static_cast<GradientBrush&>(*brush);
+    std::string text = gradient.isRadial() ? "radial" : "linear";
+    if (brush->getOpacity() != 1) text += "/" + shown(brush->getOpacity());
+    for (const StopPoint& point : gradient.getStops())
+        text += " " + shown(point.offset) + ":" + describe(point.color) + "/" + shown(point.opacity);
+    return text;
+}
+
+std::string describe(const SmartPtr<Stroke>& stroke) {
+    return stroke.isEmpty() ? "empty" : shown(stroke->getThickness()) + " " + describe(stroke->getBrush());
+}
+
+std::string geometryOf(const SmartPtr<Brush>& brush) {
+    const auto& gradient = static_cast<const GradientBrush&>(*brush);
+    const auto& linear = static_cast<const LinearGradientBrush&>(gradient);
+    const auto& radial = static_cast<const RadialGradientBrush&>(gradient);
+    std::string text = gradient.isRadial() ? shown(radial.centre()) + ' ' + shown(radial.radii().width) + ',' +
+                                                 shown(radial.radii().height)
+                                           : shown(linear.start()) + ' ' + shown(linear.end());
+    const GradientSpreadMethod spread = gradient.getSpreadMethod();
+    append(text, gradient.getUnits() == GradientUnits::UserSpaceOnUse ? "user" : "box");
+    append(text, spread == GradientSpreadMethod::Pad       ? "pad"
+                 : spread == GradientSpreadMethod::Reflect ? "reflect"
+                                                           : "repeat");
+    for (const float element : gradient.getMatrix().getElements()) append(text, shown(element));
+    return text;
+}
+
 std::string attributeOf(const XmlObject& object, std::string_view name) {
     const XmlAttributeTypeInfo* const attribute = object.getTypeInfo()->findAttribute(name);
     return attribute == nullptr ? "no such attribute" : attribute->getType().print(*attribute->of(object).box());
+}
+
+void give(XmlObject& object, std::string_view attributes) {
+    while (!attributes.empty()) {
+        const std::size_t equals = attributes.find('=');
+        const std::size_t end = std::min(attributes.find(';'), attributes.size());
+        const XmlAttributeTypeInfo* const attribute = object.getTypeInfo()->findAttribute(attributes.substr(0, equals));
+        attribute->setGiven(object, attribute->getType().parse(attributes.substr(equals + 1, end - equals - 1)));
+        attributes.remove_prefix(std::min(end + 1, attributes.size()));
+    }
+}
+
+void RecordingSurface::beginDocument() {
+    info = documentInfo();
+    note("beginDocument", {});
+}
+
+void RecordingSurface::drawRectangle(float x, float y, float width, float height, float rx, float ry) {
+    note("rectangle", {x, y, width, height, rx, ry});
+}
+
+void RecordingSurface::drawText(const String& text, int length, float x, float y, float spacing, int flags) {
+    EXPECT_TRUE(state().stroke.isEmpty()) << "texts are not outlined";
+    note("text " + text.toUtf8(), {static_cast<float>(length), x, y, spacing, static_cast<float>(flags)});
+}
+
+void RecordingSurface::note(const std::string& call, const std::vector<float>& numbers) {
+    calls += call;
+    for (const float value : numbers) calls += ' ' + shown(value);
+    calls += "; ";
 }
 
 std::string CapturedLog::codes() const {
     std::string text;
     for (const LogRecord& record : records) append(text, std::to_string(record.code));
     return text;
+}
+
+std::string CapturedLog::told() const {
+    std::string text;
+    for (const LogRecord& record : records) append(text, std::to_string(record.code) + '@' + describe(record.place));
+    return text;
+}
+
+std::string describe(const Exception& e) {
+    const char* const type = dynamic_cast<const UnreacheableCodeException*>(&e) != nullptr
+                                 ? "UnreacheableCodeException "
+                             : dynamic_cast<const NullPointerException*>(&e) != nullptr ? "NullPointerException "
+                                                                                        : "Exception ";
+    return type + std::to_string(e.getCode()) + ' ' + e.getCodeLocation().source + ':' +
+           std::to_string(e.getCodeLocation().line) + " at " + describe(e.getPlace());
 }
 
 }  // namespace VEXA::Testing

@@ -1,11 +1,10 @@
 #include "vexa/spider/SpiderScale.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <limits>
 
 #include "tests/engine/EngineTestTools.h"
+#include "vexa/spider/SpiderLayout.h"
 #include "vexa/support/core/Limits.h"
 
 namespace VEXA {
@@ -13,77 +12,53 @@ namespace {
 
 using namespace Testing;
 
-constexpr float kOpenMin = -2147483648.0F;
-constexpr float kOpenMax = 2147483648.0F;
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+
+TEST(SpiderLayout, SpokesStartAtTwelveAndRunClockwise) {
+    const char* const clock[] = {"0,-100", "86.6,50", "-86.6,50"};  // 12, 4 and 8 o'clock
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(shown(spiderAxisPoint(3, 100, static_cast<float>(i + 1))), clock[i]);
+    EXPECT_EQ(shown(spiderAxisPoint(4, -50, 2)), "-50,0") << "beyond the centre";
+    EXPECT_EQ(shown(spiderAxisPoint(0, 100, 1)), "0,0") << "no spokes";
+}
+
+TEST(SpiderLayout, CaptionsStandOutsideTheirTips) {
+    const Case<PointF, const char*> cases[] = {
+        {{130, 75}, "134,80", "slanting to the right"},
+        {{0.00005F, -150}, "-15,-154", "what rounding leaves of a vertical spoke"},
+        {{0, 0}, "0,0", "a web without radius"},
+        {spiderAxisPoint(4, 100'000, 3), "-15,100014", "spokes of huge webs stay vertical"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(shown(spiderCaptionOrigin(c.in, {30, 10}, 4)), c.out) << c.why;
+}
 
 TEST(SpiderScale, PositionIsTheFractionOfTheScaleAndIsNotCut) {
-    const struct {
-        SpiderScale scale;
-        float value;
-        float position;
-        const char* why;
-    } cases[] = {
-        {{0, 50}, 50, 1, "the tip"},
-        {{0, 50}, 0, 0, "the centre"},
-        {{10, 50}, 20, 0.25F, "counted from the minimum, not from zero"},
-        {{-20, 20}, 0, 0.5F, "zero lies between the ends"},
-        {{0, 50}, -10, -0.2F, "below the scale: the other side of the centre"},
-        {{0, 50}, 75, 1.5F, "above the scale: outside the web"},
-        {{5, 5}, 9, 0, "a scale without extent puts everything into the centre"},
-    };
-    for (const auto& c : cases) EXPECT_FLOAT_EQ(c.scale.position(c.value), c.position) << c.why;
+    EXPECT_FLOAT_EQ((SpiderScale{10, 50}.position(20)), 0.25F) << "counted from the minimum, not from zero";
+    EXPECT_FLOAT_EQ((SpiderScale{0, 50}.position(75)), 1.5F) << "above the scale: outside the web";
+    EXPECT_FLOAT_EQ((SpiderScale{5, 5}.position(9)), 0) << "a scale without extent puts everything into the centre";
 }
 
 TEST(SpiderScale, DataScaleIncludesZeroAndIsRoundedOutward) {
-    const struct {
-        SpiderExtent values;
-        SpiderScale scale;
-        const char* why;
-    } cases[] = {
-        {{12, 87}, {0, 90}, "all positive: from zero"},
-        {{-23, -7}, {-25, 0}, "all negative: up to zero"},
-        {{-23, 37}, {-25, 40}, "both ends round away from zero"},
-        {{0, 0}, {0, 0}, "nothing but zeros"},
-        {{}, {0, 0}, "no data at all"},
+    const Case<SpiderExtent, SpiderScale> cases[] = {
+        {{12, 87}, {0, 90}, "all positive: from zero"},           {{-23, -7}, {-25, 0}, "all negative: up to zero"},
+        {{-23, 37}, {-25, 40}, "both ends round away from zero"}, {{}, {0, 0}, "no data at all"},
         {{3e9F, 5e9F}, {0, 6e9F}, "beyond the range of 32 bits"},
     };
-    for (const auto& c : cases) EXPECT_EQ(spiderDataScale(c.values), c.scale) << c.why;
-}
-
-TEST(SpiderScale, ExtentGrowsWithWhatIsAdded) {
+    for (const auto& c : cases) EXPECT_EQ(spiderDataScale(c.in), c.out) << c.why;
     SpiderExtent extent;
-    extent.add(3);
-    extent.add({-4, 1});
-    extent.add(std::numeric_limits<float>::quiet_NaN());
+    for (const SpiderExtent& added : {SpiderExtent{3, 3}, {-4, 1}, {kNaN, kNaN}}) extent.add(added);
     EXPECT_EQ(extent, (SpiderExtent{-4, 3})) << "what is no number leaves the extent as it was";
-}
-
-TEST(SpiderScale, BoundsCountOnlyWhenEveryAxisSetsThem) {
-    const SpiderScale data{-5, 90};
-    const struct {
-        SpiderExtent bounds;
-        SpiderScale scale;
-        const char* why;
-    } cases[] = {
-        {{kOpenMin, kOpenMax}, {-5, 90}, "no bounds"},
-        {{0, 50}, {0, 50}, "both ends, on every axis"},
-        {{10, kOpenMax}, {10, 90}, "one axis leaves the upper end open"},
-        {{kOpenMin, 50}, {-5, 50}, "one axis leaves the lower end open"},
-        {{100, kOpenMax}, {100, 100}, "the data ends below the minimum: no extent, not a reversed scale"},
-    };
-    for (const auto& c : cases) EXPECT_EQ(spiderScale(data, c.bounds), c.scale) << c.why;
+    EXPECT_EQ(spiderScale({-5, 90}, {100, 2147483648.0F}), (SpiderScale{100, 100}))
+        << "the data ends below the minimum: no extent, not a reversed scale";
 }
 
 TEST(SpiderScale, RingStepDividesTheScaleIntoWholeNumbers) {
     const struct {
         SpiderScale scale;
-        float radius;
-        float wanted;
-        float step;
+        float radius, wanted, step;
         const char* why;
     } cases[] = {
         {{0, 100}, 150, 0, 4, "at most 37 rings, and 25 is the largest divisor of 100 below"},
-        {{0, 90}, 150, 0, 3, "30 rings of 3"},
         {{-60, 40}, 150, 0, 4, "both ends count"},
         {{0, 97}, 150, 0, 97, "a prime number has no divisor: one step"},
         {{0, 7}, 150, 0, 1, "a small prime number is its own divisor"},
@@ -103,16 +78,14 @@ TEST(SpiderScale, RingsRunFromTheMinimumToTheMaximum) {
     const struct {
         SpiderScale scale;
         float step;
-        const char* values;
-        const char* why;
+        const char *values, *why;
     } cases[] = {
-        {{0, 100}, 25, "0 25 50 75 100", "the step meets the maximum"},
         {{0, 100}, 30, "0 30 60 90 100", "the last step is cut short"},
         {{-25, 40}, 13, "-25 -12 1 14 27 40", "steps count from the minimum, so zero has no ring of its own"},
         {{0, 0.5F}, 0, "0 0.5", "no step: both ends"},
         {{0, 10}, 50, "0 10", "a step beyond the maximum"},
         {{3, 3}, 1, "3", "no extent: one ring"},
-        {{0, 1}, 0.1F, "0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9 1", "rounding does not draw the outermost ring twice"},
+        {{0, 100}, 33.3333F, "0 33.33 66.67 100", "rounding does not draw the outermost ring twice"},
         {{16777216, 16777220}, 0.5F, "16777216 16777218 16777220", "a step below what a float can hold"},
     };
     for (const auto& c : cases) {
@@ -120,17 +93,10 @@ TEST(SpiderScale, RingsRunFromTheMinimumToTheMaximum) {
         EXPECT_EQ(shown(rings.values), c.values) << c.why;
         EXPECT_FALSE(rings.isThinned) << c.why;
     }
-}
-
-TEST(SpiderScale, NothingThatIsNoNumberHangsTheWeb) {
-    const float infinity = std::numeric_limits<float>::infinity();
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    for (const SpiderScale scale :
-         {SpiderScale{nan, 1}, {0, nan}, {0, infinity}, {-infinity, 0}, {-infinity, infinity}}) {
-        for (const float step : {1.0F, 1e-30F, infinity, nan}) {
+    for (const SpiderScale scale : {SpiderScale{kNaN, 1}, {0, kNaN}, {0, kInfinity}, {-kInfinity, kInfinity}}) {
+        for (const float step : {1.0F, 1e-30F, kInfinity, kNaN})
             EXPECT_LE(spiderWebRings(scale, step, Limits::kWebRings).values.size(), Limits::kWebRings + 1);
-        }
-        static_cast<void>(spiderRingStep(scale, nan, nan));
+        static_cast<void>(spiderRingStep(scale, kNaN, kNaN));
     }
 }
 
@@ -150,14 +116,12 @@ TEST(Limits, WebRings) {
     EXPECT_NEAR(thinned.values[1], 100.01, 0.01);
     EXPECT_TRUE(std::is_sorted(thinned.values.begin(), thinned.values.end()));
 
-    const std::string axis = R"(<spider-axis id="a" min="0" max="1000000"/>)";
-    const std::string serie = R"(<spider-serie><spider-data-point axis-id="a" value="3"/></spider-serie>)";
-    const Testing::CapturedLog log;
-    EXPECT_EQ(Testing::drawingCalls(Testing::spiderWith(R"(unit-frequency="0.000001")", axis + serie), "path").size(),
-              Limits::kWebRings + 1)
+    const CapturedLog log;
+    const std::string chart = "<spider-axis id='a' min='0' max='1000000'/><spider-serie/>";
+    EXPECT_EQ(drawingCalls(spiderWith("unit-frequency='0.000001'", chart), "path").size(), Limits::kWebRings + 1)
         << "the rings and the series";
     EXPECT_EQ(log.codes(), "34012");
-    EXPECT_EQ(log.records.front().place.line, 1U);
+    EXPECT_EQ(log.records.size(), 1U);
 }
 
 TEST(Limits, WebCorners) {
@@ -165,8 +129,9 @@ TEST(Limits, WebCorners) {
     EXPECT_EQ(spiderMostRings(100), Limits::kWebRings) << "a hundred axes may have all of them";
     EXPECT_EQ(spiderMostRings(100'000), 10U);
     EXPECT_EQ(spiderMostRings(5'000'000), 2U) << "the innermost and the outermost ring stay";
-    EXPECT_EQ(Testing::shown(spiderWebRings({0, 100}, 1, 10).values), "0 12 24 36 48 60 72 84 96 100")
+    EXPECT_EQ(shown(spiderWebRings({0, 100}, 1, 10).values), "0 12 24 36 48 60 72 84 96 100")
         << "every twelfth step is the first that leaves ten rings";
+    EXPECT_FALSE(spiderWebRings({0, 100}, 33.3333F, 4).isThinned) << "rounding does not ask for a fifth";
 }
 
 }  // namespace VEXA

@@ -43,7 +43,7 @@ TEST(Program, TellsEveryFaultInOneLineWithItsPlaceAndLeavesNoFile) {
         {kOpen + "<title value='a'", "chart.xml:2:", "malformed", "a file that was cut off"},
         {kOpen + "  <title stroke-width='thick'/></root>", "chart.xml:2:", "\"thick\"", "a value that is no length"},
         {"", "chart.xml:1:1: error: ", "empty", "an empty file"},
-        {" \n\n", "chart.xml:", "error: ", "a file of nothing but blanks"},
+        {" \n<!-- <root/> -->\n", "chart.xml:1:1: error: ", "empty", "a file of blanks and comments"},
         {"<title xmlns='http://vexa-charts.org/2008/vx'/>", "chart.xml:1:1: error: ", "root", "an element of a chart"},
         {"<svg/>", "chart.xml:1:1: error: ", "svg", "a document of another kind"},
         {"<!DOCTYPE root>\n" + kOpen + "</root>", "chart.xml:1:", "DOCTYPE", "entities are not read"},
@@ -60,13 +60,15 @@ TEST(Program, TellsEveryFaultInOneLineWithItsPlaceAndLeavesNoFile) {
     }
 }
 
-TEST(Program, WarnsOfAnUnknownElementAndDrawsTheRest) {
+TEST(Program, WarnsOfElementsItCannotUseAndDrawsTheRest) {
     const TestDirectory directory;
-    directory.write("chart.xml", kOpen + "  <tilte value='a'/>\n<title value='kept'/></root>");
+    directory.write("chart.xml", kOpen + "  <tilte value='a'/><root/><serie/>\n<title value='kept'/></root>");
     const Outcome told = run(directory, "render chart.xml -o chart.svg");
     EXPECT_EQ(told.status, 0);
     EXPECT_TRUE(startsWith(told.errors, "chart.xml:2:3: warning: ")) << told.errors;
-    EXPECT_NE(told.errors.find("did you mean \"title\"?"), std::string::npos) << told.errors;
+    for (const char* help : {"did you mean \"title\"?", "no element takes it", "in \"area-chart\", \"bar-chart\""}) {
+        EXPECT_NE(told.errors.find(help), std::string::npos) << told.errors;
+    }
     EXPECT_NE(directory.read("chart.svg").find("kept"), std::string::npos);
 }
 

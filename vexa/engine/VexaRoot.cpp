@@ -1,5 +1,9 @@
 #include "vexa/engine/VexaRoot.h"
 
+#include <cmath>
+
+#include "vexa/support/core/Log.h"
+
 namespace VEXA {
 
 VexaRoot::VexaRootTypeInfo::VexaRootTypeInfo() : XmlTypeInfo("VexaRoot", "root", chartNamespace(), &initTypeInfo) {
@@ -35,9 +39,20 @@ void VexaRoot::render(SmartPtr<RenderContext> surface, float width, float height
         context.applyViewBox(LengthOrPercent(Length(size.width)), LengthOrPercent(Length(size.height)), *viewBox_,
                              getPlace());
     }
+    tellEmptyPicture(size, surface->state().transform);
     preRender(context, nullptr);
     drawBackground(context);
     renderChildren(context);
+}
+
+// The picture is drawn all the same: a surface may know what to make of it.
+void VexaRoot::tellEmptyPicture(const SizeF& page, const Matrix& transform) const {
+    const auto isExtent = [](float length) { return length > 0 && std::isfinite(length); };
+    if (!isExtent(page.width) || !isExtent(page.height)) {
+        Log::warning(34017, {page.width, page.height}, getPlace());
+    } else if (!transform.isFinite() && !(viewBox_ == DefaultViewBox)) {
+        Log::warning(34018, {String(ValueTraits<ViewBox>::print(*viewBox_))}, getPlace());
+    }
 }
 
 void VexaRoot::renderChildren(VexaRenderContext& context) {
@@ -64,11 +79,20 @@ void VexaRoot::drawBackground(VexaRenderContext& context) {
     context.drawRectangle(*x_, *y_, *width_, *height_, LengthOrPercent(), LengthOrPercent());
 }
 
+// What asking each defs in turn would find, without a walk over all definitions for each reference.
 XmlObjPtr<VexaObject> VexaRoot::findObject(const String& id) {
+    if (id.isEmpty() || id[0] != U'#') return nullptr;
+    if (!hasDefinitionIndex_) indexDefinitions();
+    const auto found = definitions_.find(id.subString(1));
+    return found == definitions_.end() ? nullptr : XmlObjPtr<VexaObject>(found->second);
+}
+
+void VexaRoot::indexDefinitions() {
     for (const auto& defs : defs_) {
-        if (XmlObjPtr<VexaObject> found = defs->findObject(id)) return found;
+        for (const auto& definition : defs->getDefinitions())
+            definitions_.emplace(definition->getId(), definition.get());
     }
-    return nullptr;
+    hasDefinitionIndex_ = true;
 }
 
 VexaAreaObject* VexaRoot::asArea(const XmlObjPtr<XmlObject>& body) {

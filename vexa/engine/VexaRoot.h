@@ -1,5 +1,7 @@
 #pragma once
 
+#include <unordered_map>
+
 #include "vexa/legend/VexaLegend.h"
 #include "vexa/legend/VexaTitle.h"
 #include "vexa/style/VexaAreaObject.h"
@@ -30,7 +32,8 @@ public:
     bool hasPercentHeight() const { return height_->isPercent(); }
 
     /// Paints the whole chart: background, bodies in document order, title, legend. `width` and `height` are what a
-    /// size in percent refers to, in px. The surface's state is as before when it ends, also by an exception. Throws
+    /// size in percent refers to, in px. Warns when nothing can show: of a page without extent, and of a view box that
+    /// leads beyond all coordinates. The surface's state is as before when it ends, also by an exception. Throws
     /// Exception 34011 for a view box without extent.
     void render(SmartPtr<RenderContext> surface, float width, float height);
     /// Does nothing: a root is painted by the call above only.
@@ -51,6 +54,8 @@ private:
     static VexaAreaObject* asArea(const XmlObjPtr<XmlObject>& body);
     VexaAreaObject* firstBody() const;
     void renderChildren(VexaRenderContext& context);
+    void tellEmptyPicture(const SizeF& page, const Matrix& transform) const;
+    void indexDefinitions();
 
     XmlObjectList<XmlObject> bodies_;
     XmlObjPtr<VexaLegend> legend_;
@@ -58,6 +63,8 @@ private:
     XmlObjectList<VexaDefs> defs_;
     TXmlAttribute<ViewBox> viewBox_{DefaultViewBox};
     bool needsPreRender_ = true;
+    std::unordered_map<String, VexaObject*> definitions_;  // by id, the first of equal ones; made on first use
+    bool hasDefinitionIndex_ = false;
 };
 
 }  // namespace VEXA

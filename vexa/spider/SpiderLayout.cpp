@@ -61,14 +61,17 @@ PointF SpiderLayout::pointAt(std::size_t axis, float distance) const noexcept {
     return {static_cast<float>(distance * direction.x), static_cast<float>(distance * direction.y)};
 }
 
-PointF SpiderLayout::pointOf(std::size_t axis, float value) const noexcept {
-    return pointAt(axis, radius_ * scale_.position(value));
+// Finite also where radius times position is not: infinity times the 0 of an upright spoke would be no number.
+float SpiderLayout::distanceOf(float value) const noexcept {
+    return Math::toFloat(static_cast<double>(radius_) * scale_.position(value));
 }
+
+PointF SpiderLayout::pointOf(std::size_t axis, float value) const noexcept { return pointAt(axis, distanceOf(value)); }
 
 Vector<PointF> SpiderLayout::ring(float value) const {
     Vector<PointF> corners;
     corners.reserve(axisCount());
-    const float distance = radius_ * scale_.position(value);
+    const float distance = distanceOf(value);
     for (std::size_t axis = 0; axis < axisCount(); ++axis) corners.push_back(pointAt(axis, distance));
     return corners;
 }

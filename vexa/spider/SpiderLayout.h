@@ -38,6 +38,7 @@ private:
     };
     static Direction directionOf(double count, double index) noexcept;
     PointF pointAt(std::size_t axis, float distance) const noexcept;
+    float distanceOf(float value) const noexcept;
     friend PointF spiderAxisPoint(float count, float radius, float index) noexcept;
 
     float radius_;

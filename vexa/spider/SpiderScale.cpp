@@ -1,7 +1,10 @@
 #include "vexa/spider/SpiderScale.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 
 #include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Math.h"
@@ -12,11 +15,31 @@ namespace VEXA {
 namespace {
 
 constexpr float kPixelsPerRing = 4.0F;
+constexpr float kBeyond = std::numeric_limits<float>::infinity();  // a step that no scale has room for
 constexpr double kSameRing = 1e-4;  // of a step: rounding must not draw the outermost ring twice
 
-float roundOutward(float value) noexcept {
-    return static_cast<float>(Util::adjustValueRange(static_cast<double>(value)));
-}
+float roundOutward(float value) noexcept { return Math::toFloat(Util::adjustValueRange(static_cast<double>(value))); }
+
+/// A whole number of any size that a double holds, as a multiple of a power of two: beyond 64 bits std::fmod answers
+/// too, but bit by bit, and ten thousand divisors are tried for each web.
+class WholeNumber {
+public:
+    explicit WholeNumber(double value) noexcept {
+        constexpr int kDigits = std::numeric_limits<double>::digits;
+        int exponent = 0;
+        const double fraction = std::frexp(value, &exponent);
+        twos_ = std::max(exponent - kDigits, 0);
+        multiple_ = static_cast<std::uint64_t>(std::ldexp(fraction, exponent - twos_));
+    }
+
+    bool isDivisibleBy(std::uint64_t divisor) const noexcept {
+        return multiple_ % (divisor >> std::min(std::countr_zero(divisor), twos_)) == 0;
+    }
+
+private:
+    std::uint64_t multiple_ = 0;
+    int twos_ = 0;
+};
 
 }  // namespace
 
@@ -26,9 +49,10 @@ void SpiderExtent::add(const SpiderExtent& other) noexcept {
 }
 
 float SpiderScale::position(float value) const noexcept {
-    const float extent = max - min;
-    const float distance = value - min;
-    return distance == 0 || extent == 0 ? 0.0F : distance / extent;
+    // In double precision: the extent of a scale from -2e38 to 2e38 is beyond a float.
+    const double extent = static_cast<double>(max) - min;
+    const double distance = static_cast<double>(value) - min;
+    return distance == 0 || extent == 0 ? 0.0F : Math::toFloat(distance / extent);
 }
 
 SpiderScale spiderDataScale(const SpiderExtent& values) noexcept {
@@ -51,14 +75,15 @@ SpiderScale spiderScale(const SpiderScale& data, const SpiderExtent& bounds) noe
 
 float spiderRingStep(const SpiderScale& scale, float radius, float wanted) noexcept {
     if (wanted > 0) return wanted;
-    // In double precision every whole number a float can hold divides exactly, also those beyond 64 bits.
     const double whole =
         std::trunc(std::abs(static_cast<double>(scale.min)) + std::abs(static_cast<double>(scale.max)));
+    if (!(whole <= std::numeric_limits<float>::max() * 2.0)) return kBeyond;
+    const WholeNumber number(whole);
     const int mostRings = std::min(Math::toInt(radius / kPixelsPerRing), static_cast<int>(Limits::kWebRings));
     for (int rings = mostRings; rings >= 2; --rings) {
-        if (std::fmod(whole, rings) == 0) return static_cast<float>(whole / rings);
+        if (number.isDivisibleBy(static_cast<std::uint64_t>(rings))) return static_cast<float>(whole / rings);
     }
-    return static_cast<float>(whole);
+    return whole > std::numeric_limits<float>::max() ? kBeyond : static_cast<float>(whole);
 }
 
 std::size_t spiderMostRings(std::size_t axisCount) noexcept {
@@ -76,7 +101,7 @@ WebRings spiderWebRings(const SpiderScale& scale, float step, std::size_t mostRi
         if (rings.isThinned) spacing *= std::ceil(steps / (static_cast<double>(mostRings) - 1));
         const double last = scale.max - spacing * kSameRing;
         for (std::size_t i = 1; i < mostRings; ++i) {
-            const auto value = static_cast<float>(scale.min + static_cast<double>(i) * spacing);
+            const float value = Math::toFloat(scale.min + static_cast<double>(i) * spacing);
             if (!(value < last)) break;
             if (value > rings.values.back()) rings.values.push_back(value);
         }

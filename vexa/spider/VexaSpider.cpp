@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Log.h"
 
 namespace VEXA {
@@ -9,6 +10,7 @@ namespace VEXA {
 namespace {
 
 constexpr StyleLocations kLocations{"VexaSpider", 159, 159, 159, 159, 159, 159};
+constexpr std::size_t kLeastRingCorners = 16;  // what a ring costs even with fewer: ten thousand need one attribute
 
 }  // namespace
 
@@ -93,8 +95,13 @@ void VexaSpider::render(VexaRenderContext& context) {
 
 void VexaSpider::drawChart(VexaRenderContext& context) {
     const SpiderLayout layout = getLayout(context);
-    if (*drawWeb_) drawWeb(context, layout);
-    for (const auto& serie : series_) serie->render(context, layout);
+    const std::size_t lostRings = *drawWeb_ ? drawWeb(context, layout) : 0;
+    const std::size_t lostSeries = drawSeries(context, layout);
+    if (lostRings + lostSeries > 0) {
+        const VariantArray lost{static_cast<std::int64_t>(lostRings), static_cast<std::int64_t>(lostSeries),
+                                static_cast<std::int64_t>(Limits::kPictureCorners)};
+        Log::warning(34015, lost, getPlace());
+    }
     int index = 0;
     for (const auto& axis : axes_) {
         axis->setIndex(++index);
@@ -102,11 +109,22 @@ void VexaSpider::drawChart(VexaRenderContext& context) {
     }
 }
 
-void VexaSpider::drawWeb(VexaRenderContext& context, const SpiderLayout& layout) {
+std::size_t VexaSpider::drawWeb(VexaRenderContext& context, const SpiderLayout& layout) {
     context.setFill(nullptr);
     context.setStroke(makeWebStroke());
-    for (const float value : getWebValues(layout)) context.drawPolygon(layout.ring(value), /*closed*/ true);
+    const Vector<float> values = getWebValues(layout);
+    const std::size_t lost =
+        values.size() - context.takePolygons(values.size(), std::max(layout.axisCount(), kLeastRingCorners));
+    for (std::size_t i = lost; i < values.size(); ++i) context.drawPolygon(layout.ring(values[i]), /*closed*/ true);
     context.setStroke(nullptr);
+    return lost;
+}
+
+std::size_t VexaSpider::drawSeries(VexaRenderContext& context, const SpiderLayout& layout) {
+    const SpiderAxisIndex axes(axes_);
+    const std::size_t drawn = context.takePolygons(series_.size(), layout.axisCount());
+    for (std::size_t i = 0; i < drawn; ++i) series_[i]->render(context, layout, axes);
+    return series_.size() - drawn;
 }
 
 SmartPtr<Stroke> VexaSpider::makeWebStroke() {

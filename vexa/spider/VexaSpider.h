@@ -24,7 +24,8 @@ public:
     /// The spider that a series or an axis belongs to. Throws NullPointerException when it belongs to none.
     static VexaSpider& of(const VexaObject& child);
 
-    /// Paints the background, and with at least one series and one axis the web, the series and the axes. Throws
+    /// Paints the background, and with at least one series and one axis the web, the series and the axes. Rings (the
+    /// innermost first) and series that the picture has no corners left for are left out, with one warning. Throws
     /// UnreacheableCodeException for a web stroke of `none`, and what the series throw.
     void render(VexaRenderContext& context) override;
     /// Does nothing: a radar chart takes no colours from the theme.
@@ -50,7 +51,9 @@ private:
     Vector<float> getWebValues(const SpiderLayout& layout);
     SmartPtr<Stroke> makeWebStroke();
     void drawChart(VexaRenderContext& context);
-    void drawWeb(VexaRenderContext& context, const SpiderLayout& layout);
+    /// These draw what the picture has corners left for, and answer how many rings or series that leaves out.
+    std::size_t drawWeb(VexaRenderContext& context, const SpiderLayout& layout);
+    std::size_t drawSeries(VexaRenderContext& context, const SpiderLayout& layout);
 
     TXmlAttribute<float> unitFrequency_{DefaultFloatAttribute};
     TXmlAttribute<bool> drawWeb_{DefaultTrueBoolAttribute};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexa/spider/SpiderAxisIndex.h"
 #include "vexa/spider/SpiderLayout.h"
 #include "vexa/spider/VexaSpiderDataPoint.h"
 
@@ -18,11 +19,11 @@ public:
     static int typeID() { return getTypeInfoInstance()->typeID(); }
     XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
 
-    /// Paints the polygon. Throws Exception 34000 when the look-up of an axis meets a data point without axis-id, and
-    /// NullPointerException outside a spider.
+    /// Paints the polygon, and warns of each data point that has none of the axes. Throws Exception 34000 when the
+    /// look-up of an axis meets a data point without axis-id, and NullPointerException outside a spider.
     void render(VexaRenderContext& context) override;
-    /// The same with the layout of the spider, which all its series share.
-    void render(VexaRenderContext& context, const SpiderLayout& layout);
+    /// The same with layout and axes of the spider, which all its series share.
+    void render(VexaRenderContext& context, const SpiderLayout& layout, const SpiderAxisIndex& axes);
 
     /// The smallest and the largest value of the data points; (0, 0) without data points.
     SpiderExtent getDataRange() const;
@@ -33,7 +34,11 @@ public:
     Vector<PointF> getPoints(VexaRenderContext& context) const;
 
 private:
-    Vector<PointF> getPoints(const SpiderLayout& layout) const;
+    struct Corners {
+        Vector<PointF> points;
+        Vector<const VexaSpiderDataPoint*> lost;  // the data points that have none of the axes
+    };
+    Corners getCorners(const SpiderLayout& layout, const SpiderAxisIndex& axes) const;
 
     XmlObjectList<VexaSpiderDataPoint> dataPoints_;
 };

@@ -1,6 +1,8 @@
 #include "vexa/style/GradientObject.h"
 
+#include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Log.h"
+#include "vexa/support/core/QuotedText.h"
 #include "vexa/util/Util.h"
 
 namespace VEXA {
@@ -9,6 +11,7 @@ namespace {
 
 constexpr int kReferenceNotFound = 34001;
 constexpr int kOtherKind = 34003;
+constexpr int kTooManyStops = 34004;
 
 }  // namespace
 
@@ -19,7 +22,10 @@ SmartPtr<Brush> GradientObject::getBrush(ColorAspect aspect, float amount) {
     lighterBrush_ = makeBrush();
     const SmartPtr<GradientObject> source = findStopSource();
     if (source.isEmpty()) return nullptr;
-    addStops(source->stops_, amount);
+    const ShadedStops& stops = source->shadeStops(amount);
+    normalBrush_->shareStops(stops.normal);
+    darkerBrush_->shareStops(stops.darker);
+    lighterBrush_->shareStops(stops.lighter);
     addTransform();
     return brushOf(aspect);
 }
@@ -42,17 +48,26 @@ SmartPtr<GradientObject> GradientObject::findStopSource() {
     if (href_ == DefaultStringAttribute) return this;
     const XmlObjPtr<VexaObject> found = findReferencedObject(*href_);
     if (!found.isEmpty() && found->isKindOf(getTypeInfo()->typeID())) return static_cast<GradientObject*>(found.get());
-    Log::warning(found.isEmpty() ? kReferenceNotFound : kOtherKind, {*href_}, getPlace());
+    Log::warning(found.isEmpty() ? kReferenceNotFound : kOtherKind, {quoteForMessage(*href_)}, getPlace());
     return nullptr;
 }
 
-void GradientObject::addStops(const XmlObjectList<VexaGradientStop>& stops, float amount) {
-    for (const XmlObjPtr<VexaGradientStop>& stop : stops) {
+const GradientObject::ShadedStops& GradientObject::shadeStops(float amount) {
+    if (!shadedStops_.normal.isEmpty() && shadedStops_.amount == amount) return shadedStops_;
+    shadedStops_ = {amount, make<StopList>(), make<StopList>(), make<StopList>()};
+    for (const XmlObjPtr<VexaGradientStop>& stop : stops_) {
+        if (shadedStops_.normal->points.size() == Limits::kGradientStops) {
+            Log::warning(kTooManyStops, {static_cast<std::int64_t>(Limits::kGradientStops)}, getPlace());
+            break;
+        }
         const SmartPtr<Color> color = stop->getColor();
-        normalBrush_->addStop(stop->getOffset(), color, stop->getOpacity());
-        darkerBrush_->addStop(stop->getOffset(), Color::getDarker(color, amount), stop->getOpacity());
-        lighterBrush_->addStop(stop->getOffset(), Color::getLighter(color, amount), stop->getOpacity());
+        const float offset = stop->getOffset();
+        const float opacity = stop->getOpacity();
+        shadedStops_.normal->points.push_back({offset, color, opacity});
+        shadedStops_.darker->points.push_back({offset, Color::getDarker(color, amount), opacity});
+        shadedStops_.lighter->points.push_back({offset, Color::getLighter(color, amount), opacity});
     }
+    return shadedStops_;
 }
 
 void GradientObject::addTransform() {

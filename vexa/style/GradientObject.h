@@ -36,9 +36,17 @@ private:
     SmartPtr<GradientBrush>& brushOf(ColorAspect aspect) noexcept;
     /// Holds the stops to use; empty when `href` leads to no gradient of this kind.
     SmartPtr<GradientObject> findStopSource();
-    void addStops(const XmlObjectList<VexaGradientStop>& stops, float amount);
+    /// The own stops for each aspect; borrowers share them.
+    struct ShadedStops {
+        float amount = 0;
+        SmartPtr<StopList> normal;  // empty until the first use
+        SmartPtr<StopList> darker;
+        SmartPtr<StopList> lighter;
+    };
+    const ShadedStops& shadeStops(float amount);
     void addTransform();
 
+    ShadedStops shadedStops_;
     SmartPtr<GradientBrush> normalBrush_;
     SmartPtr<GradientBrush> darkerBrush_;
     SmartPtr<GradientBrush> lighterBrush_;

@@ -7,6 +7,7 @@
 #include "vexa/style/VexaRenderContext.h"
 #include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Log.h"
+#include "vexa/support/core/QuotedText.h"
 
 namespace VEXA {
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kReferenceNotFound = 34001;
 constexpr int kNoGradient = 34002;
+constexpr int kTooManyDashes = 34005;
 
 /// The opacity that counts; null when neither says anything.
 const FloatOrPercent* findOpacity(const OpacityAttributes& opacity) {
@@ -22,7 +24,7 @@ const FloatOrPercent* findOpacity(const OpacityAttributes& opacity) {
     return nullptr;
 }
 
-Vector<float> pxSizes(const Vector<SLength>& lengths) {
+Vector<float> pxSizes(std::span<const SLength> lengths) {
     Vector<float> sizes(lengths.size());
     std::transform(lengths.begin(), lengths.end(), sizes.begin(),
                    [](const SLength& length) { return length.pxSize(); });
@@ -57,7 +59,7 @@ SmartPtr<Stroke> PaintStyle::makeStroke(const SColor& paint, const StrokeAttribu
     auto stroke = make<Stroke>(makeBrush(paint, aspect, amount), attributes.width->pxSize());
     if (const FloatOrPercent* const given = findOpacity(attributes.opacity)) stroke->setOpacity(given->getValue());
     if (attributes.dashArray != DefaultSDashPattern) {
-        stroke->setDashArray(pxSizes(*attributes.dashArray));
+        stroke->setDashArray(dashSizes(*attributes.dashArray));
         stroke->setDashOffset(attributes.dashOffset->pxSize());
     }
     const LineCap cap = mapLineCap(*attributes.lineCap);
@@ -66,6 +68,14 @@ SmartPtr<Stroke> PaintStyle::makeStroke(const SColor& paint, const StrokeAttribu
     stroke->setLineJoin(mapLineJoin(*attributes.lineJoin));
     stroke->setMiterLimit(attributes.miterLimit->pxSize());
     return stroke;
+}
+
+Vector<float> PaintStyle::dashSizes(std::span<const SLength> lengths) const {
+    if (lengths.size() > Limits::kDashEntries) {
+        Log::warning(kTooManyDashes, {static_cast<std::int64_t>(Limits::kDashEntries)}, owner_.getPlace());
+        lengths = lengths.first(Limits::kDashEntries);
+    }
+    return pxSizes(lengths);
 }
 
 SmartPtr<Font> PaintStyle::makeFont(const FontAttributes& attributes, const VexaRenderContext& context) const {
@@ -81,12 +91,12 @@ SmartPtr<Font> PaintStyle::makeFont(const FontAttributes& attributes, const Vexa
 SmartPtr<Brush> PaintStyle::makeGradient(const String& reference, ColorAspect aspect, float amount) const {
     const XmlObjPtr<VexaObject> object = owner_.findReferencedObject(reference);
     if (object.isEmpty()) {
-        Log::warning(kReferenceNotFound, {reference}, owner_.getPlace());
+        Log::warning(kReferenceNotFound, {quoteForMessage(reference)}, owner_.getPlace());
         return nullptr;
     }
     if (auto* const gradient = dynamic_cast<GradientDefinition*>(object.get()))
         return gradient->getBrush(aspect, amount);
-    Log::warning(kNoGradient, {object->getId()}, owner_.getPlace());
+    Log::warning(kNoGradient, {quoteForMessage(object->getId())}, owner_.getPlace());
     return nullptr;
 }
 

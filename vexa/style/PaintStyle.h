@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "vexa/engine/VexaObject.h"
 #include "vexa/style/ColorAspect.h"
 #include "vexa/support/drawing/Font.h"
@@ -68,6 +70,7 @@ public:
 private:
     /// False for `none`.
     bool isPainted(const SColor& paint, const char* what, int line) const;
+    Vector<float> dashSizes(std::span<const SLength> lengths) const;
     SmartPtr<Brush> makeBrush(const SColor& paint, ColorAspect aspect, float amount) const;
     LineCap mapLineCap(SLineCap cap) const;
     LineJoin mapLineJoin(SLineJoin join) const;

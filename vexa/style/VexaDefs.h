@@ -21,6 +21,7 @@ public:
     void render(VexaRenderContext& context) override;
     /// The first definition that the reference "#id" names; empty when none does, or without the "#".
     XmlObjPtr<VexaObject> findObject(const String& reference) override;
+    const XmlObjectList<VexaObject>& getDefinitions() const noexcept { return definitions_; }
 
 protected:
     XmlObjectList<VexaObject> definitions_;

@@ -1,5 +1,6 @@
 #include "vexa/style/VexaRenderContext.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "vexa/support/drawing/FontService.h"
@@ -31,6 +32,12 @@ float VexaRenderContext::pxDiagonal(const LengthOrPercent& length) const noexcep
     const double width = width_;
     const double height = height_;
     return static_cast<float>(length.getPercent() * std::sqrt(width * width + height * height) / std::sqrt(2.0));
+}
+
+std::size_t VexaRenderContext::takePolygons(std::size_t wanted, std::size_t corners) noexcept {
+    const std::size_t granted = std::min(wanted, cornersLeft_ / std::max<std::size_t>(corners, 1));
+    cornersLeft_ -= granted * corners;
+    return granted;
 }
 
 void VexaRenderContext::translate(const Length& x, const Length& y) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vexa/support/core/Exception.h"
+#include "vexa/support/core/Limits.h"
 #include "vexa/support/drawing/RenderContext.h"
 #include "vexa/support/values/ViewBox.h"
 
@@ -24,6 +25,10 @@ public:
     float pxHeight(const LengthOrPercent& length) const noexcept { return length.pxSize(height_); }
     /// In px; a percentage is one of the normalised diagonal, sqrt((width² + height²) / 2).
     float pxDiagonal(const LengthOrPercent& length) const noexcept;
+
+    /// How many of `wanted` polygons of `corners` corners each the picture has room for; takes their corners off what
+    /// is left of Limits::kPictureCorners.
+    std::size_t takePolygons(std::size_t wanted, std::size_t corners) noexcept;
 
     void translate(const Length& x, const Length& y);
     /// Degrees, clockwise on the screen.
@@ -63,6 +68,7 @@ private:
     SmartPtr<RenderContext> renderContext_;
     float width_;
     float height_;
+    std::size_t cornersLeft_ = Limits::kPictureCorners;
 };
 
 }  // namespace VEXA

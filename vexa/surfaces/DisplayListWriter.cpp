@@ -90,7 +90,7 @@ void DisplayListWriter::word(std::string_view name, std::string_view value) {
 void DisplayListWriter::color(const Color& color) {
     key("color");
     text_.push_back('"');
-    appendColor(color.rgb(), text_);
+    Color::appendHex(color.rgb(), text_);
     text_.push_back('"');
 }
 

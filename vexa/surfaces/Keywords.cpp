@@ -21,11 +21,4 @@ std::string_view keywordOf(GradientSpreadMethod spread) noexcept {
     return spread == GradientSpreadMethod::Repeat ? "repeat" : "pad";
 }
 
-void appendColor(std::uint32_t rgb, std::string& out) {
-    static constexpr char kDigits[] = "0123456789abcdef";
-    char text[7] = {'#'};
-    for (int i = 1; i < 7; ++i) text[i] = kDigits[(rgb >> (24 - 4 * i)) & 15U];
-    out.append(text, sizeof text);
-}
-
 }  // namespace VEXA

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "vexa/support/drawing/Brush.h"
@@ -15,8 +13,5 @@ std::string_view keywordOf(LineCap cap) noexcept;
 std::string_view keywordOf(LineJoin join) noexcept;
 std::string_view keywordOf(GradientUnits units) noexcept;
 std::string_view keywordOf(GradientSpreadMethod spread) noexcept;
-
-/// `#rrggbb`, of 0xRRGGBB.
-void appendColor(std::uint32_t rgb, std::string& out);
 
 }  // namespace VEXA

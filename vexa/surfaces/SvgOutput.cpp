@@ -37,7 +37,7 @@ void SvgOutput::word(std::string_view start, std::string_view value) {
 
 void SvgOutput::color(std::string_view start, std::uint32_t rgb) {
     text_ += start;
-    appendColor(rgb, text_);
+    Color::appendHex(rgb, text_);
     text_.push_back('"');
 }
 

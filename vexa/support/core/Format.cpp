@@ -46,20 +46,30 @@ bool isTiny(std::string_view text) noexcept {
 }
 
 template <class T>
-std::optional<T> parseReal(std::string_view whole) noexcept {
-    const std::string_view text = withoutPlus(whole);
-    if (!startsAsNumber(text)) return std::nullopt;
+const char* readReal(const char* at, const char* end, T& out) noexcept {
+    const std::string_view text = withoutPlus({at, static_cast<std::size_t>(end - at)});
+    if (!startsAsNumber(text)) return nullptr;
     T value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (end != text.data() + text.size()) return std::nullopt;
-    if (error == std::errc::result_out_of_range) return isTiny(text) ? std::optional<T>(T(0)) : std::nullopt;
-    if (error != std::errc() || !std::isfinite(value)) return std::nullopt;
-    return value;
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (error == std::errc::result_out_of_range) {
+        if (!isTiny({text.data(), stop})) return nullptr;
+        value = 0;
+    } else if (error != std::errc() || !std::isfinite(value)) {
+        return nullptr;
+    }
+    out = value;
+    return stop;
 }
 
-/// Compared in the precision of the number, so that 0.00001F, which is a little less than 0.00001, counts as that.
 template <class T>
-bool isPlain(T value) noexcept {
+std::optional<T> parseReal(std::string_view whole) noexcept {
+    T value = 0;
+    const char* const end = whole.data() + whole.size();
+    return readReal(whole.data(), end, value) == end && !whole.empty() ? std::optional<T>(value) : std::nullopt;
+}
+
+template <class T>
+bool isPlainNumber(T value) noexcept {
     const T magnitude = std::fabs(value);
     return magnitude == 0 || (magnitude >= static_cast<T>(kMinPlain) && magnitude < static_cast<T>(kMaxPlain));
 }
@@ -77,6 +87,16 @@ std::optional<std::int32_t> Format::parseInt(std::string_view whole) noexcept {
 std::optional<double> Format::parseDouble(std::string_view text) noexcept { return parseReal<double>(text); }
 
 std::optional<float> Format::parseFloat(std::string_view text) noexcept { return parseReal<float>(text); }
+
+const char* Format::readNumber(const char* begin, const char* end, double& out) noexcept {
+    return readReal(begin, end, out);
+}
+const char* Format::readNumber(const char* begin, const char* end, float& out) noexcept {
+    return readReal(begin, end, out);
+}
+
+bool Format::isPlain(double value) noexcept { return isPlainNumber(value); }
+bool Format::isPlain(float value) noexcept { return isPlainNumber(value); }
 
 void Format::appendShortest(float value, std::string& out) {
     if (value == 0 || !std::isfinite(value)) {

@@ -17,6 +17,16 @@ public:
     /// As parseDouble, and finite in single precision (an underflow is 0).
     static std::optional<float> parseFloat(std::string_view text) noexcept;
 
+    /// Reads a number as parseDouble and parseFloat do at the front of [begin, end). Returns where it ends; null when
+    /// there is none, and `out` is left alone then.
+    static const char* readNumber(const char* begin, const char* end, double& out) noexcept;
+    static const char* readNumber(const char* begin, const char* end, float& out) noexcept;
+
+    /// Whether numbers of this size are written without an exponent: 0 and 1e-5 <= |v| < 1e15. A float is compared in
+    /// its own precision, so that 0.00001F, which is a little less than 0.00001, counts as that.
+    static bool isPlain(double value) noexcept;
+    static bool isPlain(float value) noexcept;
+
     /// The shortest decimal that reads back as the same float: no exponent for 1e-5 <= |v| < 1e15, never "-0";
     /// what is not finite is written as 0.
     static void appendShortest(float value, std::string& out);

@@ -22,12 +22,20 @@ inline constexpr std::size_t kQuotedCharacters = 80;
 inline constexpr std::size_t kWebRings = 10'000;
 /// Corners of all rings of one web; ten thousand rings of a hundred thousand axes would be 1e9. Test: Limits.WebCorners
 inline constexpr std::size_t kWebCorners = 1'000'000;
+/// Corners of all rings and series of a picture. 16,000 axes with 10,000 series, half a megabyte, would write 160
+/// million of them. Test: Limits.PictureCorners
+inline constexpr std::size_t kPictureCorners = 4'000'000;
 /// Lines of a caption: a width of 0.001 px would break a long text into millions. Test: Limits.CaptionLines
 inline constexpr std::size_t kCaptionLines = 10'000;
 /// Characters of a number pattern, and of a separator or a sign in it: 100,000 labels could each repeat a pattern of a
 /// megabyte. Tests: Limits.NumberPattern, Limits.NumberSeparator
 inline constexpr std::size_t kNumberPattern = 1000;
 inline constexpr std::size_t kNumberSeparator = 10;
+/// Stops of a gradient. A display list tells them with every shape: 20,000 stops on 10,000 rings would be gigabytes.
+/// Test: Limits.GradientStops
+inline constexpr std::size_t kGradientStops = 256;
+/// Entries of a dash pattern, written with every shape as well. Test: Limits.DashEntries
+inline constexpr std::size_t kDashEntries = 100;
 /// Characters of a requested font family; every text of a picture could repeat a list of a megabyte.
 /// Test: Limits.FontFamily
 inline constexpr std::size_t kFontFamily = 1000;

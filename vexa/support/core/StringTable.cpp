@@ -51,6 +51,9 @@ constexpr Message kMessages[] = {
     {3015, R"(the encoding "{0}" is unknown; save the document as UTF-8, UTF-16, ISO-8859-1 or US-ASCII)"},
     {3016, R"(element "{0}" is not in the chart namespace; add xmlns="{1}" to the top element)"},
     {3017, "malformed XML: {0}; <{1}> of line {2} is open here"},
+    {3018, R"(element "{0}" may not stand in "{1}" and is skipped; it belongs in {2})"},
+    {3019, R"(a second "{0}" of "{1}" is ignored, the first one is kept; write it once, without a prefix)"},
+    {3020, R"(element "{0}" may not stand in "{1}" and is skipped; no element takes it, remove it)"},
 
     // Charts.
     {34000, R"(a spider data point has no axis; give it an "axis-id" that is the "id" of one of the axes)"},
@@ -58,11 +61,20 @@ constexpr Message kMessages[] = {
      R"(reference "{0}" is not found among the definitions; correct it or define it, rendering goes on without it)"},
     {34002, R"("{0}" is not a gradient; refer to a linear-gradient or a radial-gradient)"},
     {34003, R"(href "{0}" leads to a gradient of another kind; linear gradients take stops from linear ones only)"},
+    {34004, "a gradient has more than {0} stops, the further ones are left out; take fewer"},
+    {34005, "a dash pattern has more than {0} entries, the further ones are left out; write a shorter one"},
     {34010, R"("{0}" elements are not painted by this version; the rest of the chart is)"},
     {34011, R"(the view box "{0}" has no extent; write min-x, min-y and a width and a height above 0)"},
     {34012, R"(a web of {0} rings is too fine, a part of them is drawn; give the spider a larger "unit-frequency")"},
     {34013, R"(the web has no stroke; to leave the web out, write draw-web="false" in place of web-stroke="none")"},
     {34014, "a caption breaks into more than {0} lines, the rest is left out; give it more width or a shorter text"},
+    {34015,
+     "{0} rings and {1} series of the spider are left out, a picture has at most {2} corners of them; take fewer axes "
+     "or series, or a larger \"unit-frequency\""},
+    {34016, R"(no axis of the spider has the id "{0}", the data point is left out; correct "axis-id" or add the axis)"},
+    {34017,
+     R"(the page has no extent ({0} by {1} px), nothing of it shows; give the root a width and a height above 0)"},
+    {34018, R"(the view box "{0}" leads beyond all coordinates, nothing of the chart shows; write smaller numbers)"},
 };
 
 static_assert(std::is_sorted(std::begin(kMessages), std::end(kMessages),

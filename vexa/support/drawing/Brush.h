@@ -51,6 +51,11 @@ struct StopPoint {
     float opacity = 1;
 };
 
+/// Stops that several brushes may share. Shared ones are not changed.
+struct StopList final : Object {
+    Vector<StopPoint> points;
+};
+
 /// A gradient along a list of stops. Its matrix maps gradient space into user space.
 class GradientBrush : public Brush {
 public:
@@ -59,8 +64,10 @@ public:
     bool paints() const noexcept override;
 
     void addStop(float offset, SmartPtr<Color> color, float opacity);
-    const Vector<StopPoint>& getStops() const noexcept { return stops_; }
-    void setStops(Vector<StopPoint> stops) noexcept { stops_ = std::move(stops); }
+    const Vector<StopPoint>& getStops() const noexcept;
+    void setStops(Vector<StopPoint> stops);
+    /// Takes the stops of others without a copy; one is made if they are changed later.
+    void shareStops(SmartPtr<StopList> stops) noexcept { stops_ = std::move(stops); }
 
     /// Multiplies a transform into the gradient's matrix from the right.
     void addMatrixTransform(float a, float b, float c, float d, float e, float f) noexcept;
@@ -77,7 +84,7 @@ private:
     GradientUnits units_;
     GradientSpreadMethod spread_;
     Matrix matrix_;
-    Vector<StopPoint> stops_;
+    SmartPtr<StopList> stops_;  // none yet without a stop
 };
 
 class LinearGradientBrush final : public GradientBrush {

@@ -30,6 +30,13 @@ std::uint32_t Color::rgb() const noexcept {
     return static_cast<std::uint32_t>(red_) << 16 | static_cast<std::uint32_t>(green_) << 8 | blue_;
 }
 
+void Color::appendHex(std::uint32_t rgb, std::string& out) {
+    static constexpr char kDigits[] = "0123456789abcdef";
+    char text[7] = {'#'};
+    for (int i = 1; i < 7; ++i) text[i] = kDigits[(rgb >> (24 - 4 * i)) & 15U];
+    out.append(text, sizeof text);
+}
+
 SmartPtr<Color> Color::getLighter(const SmartPtr<Color>& color, float amount) {
     return shaded(color, [rest = 1.0 - usable(amount)](int value) { return value + (255 - value) * rest; });
 }

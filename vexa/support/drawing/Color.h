@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "vexa/support/core/SmartPtr.h"
 
@@ -21,6 +22,9 @@ public:
     static SmartPtr<Color> getLighter(const SmartPtr<Color>& color, float amount);
     /// A new colour nearer to black: every component is multiplied by `amount`.
     static SmartPtr<Color> getDarker(const SmartPtr<Color>& color, float amount);
+
+    /// Appends `#rrggbb` of 0xRRGGBB.
+    static void appendHex(std::uint32_t rgb, std::string& out);
 
 protected:
     constexpr Color(std::uint8_t red, std::uint8_t green, std::uint8_t blue) noexcept

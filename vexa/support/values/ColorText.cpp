@@ -81,10 +81,4 @@ SmartPtr<Color> makeColor(std::uint32_t rgb) {
     return make<RGBColor>(component(16), component(8), component(0));
 }
 
-void appendColor(const Color& color, std::string& out) {
-    static constexpr char kDigits[] = "0123456789abcdef";
-    out += '#';
-    for (int shift = 20; shift >= 0; shift -= 4) out += kDigits[color.rgb() >> shift & 0xF];
-}
-
 }  // namespace VEXA

@@ -18,7 +18,4 @@ std::optional<std::uint32_t> findColorName(std::string_view name) noexcept;
 
 SmartPtr<Color> makeColor(std::uint32_t rgb);
 
-/// Appends `#rrggbb`.
-void appendColor(const Color& color, std::string& out);
-
 }  // namespace VEXA

@@ -59,7 +59,7 @@ std::string ValueTraits<SColor>::print(const SColor& value) {
     if (value.getType() == SColorType::Url) return "url(" + value.getUrl().toUtf8() + ")";
     if (value.getType() == SColorType::None || !value.getColor()) return "none";
     std::string result;
-    appendColor(*value.getColor(), result);
+    Color::appendHex(value.getColor()->rgb(), result);
     return result;
 }
 

@@ -1,9 +1,6 @@
 #include "vexa/support/values/TextScanner.h"
 
-#include <charconv>
-#include <cmath>
 #include <limits>
-#include <optional>
 
 #include "vexa/support/core/Decimal.h"
 #include "vexa/support/core/Format.h"
@@ -12,38 +9,7 @@ namespace VEXA {
 
 namespace {
 
-constexpr double kMinPlain = 1e-5;  // from here ...
-constexpr double kMaxPlain = 1e15;  // ... to below here numbers are written without an exponent
-
-bool isDigit(char c) noexcept { return c >= '0' && c <= '9'; }
 bool isLetter(char c) noexcept { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-
-template <class T>
-std::optional<T> parseWhole(std::string_view text) noexcept {
-    if constexpr (sizeof(T) == sizeof(float)) {
-        return Format::parseFloat(text);
-    } else {
-        return Format::parseDouble(text);
-    }
-}
-
-/// Reads a number at the front of [at, end) and returns where it ends; null when there is none that is finite.
-template <class T>
-const char* readReal(const char* at, const char* end, T& out) noexcept {
-    const char* const begin = at != end && *at == '+' ? at + 1 : at;  // from_chars takes no plus
-    const char* const digits = begin != end && begin == at && *begin == '-' ? begin + 1 : begin;
-    if (digits == end || !(isDigit(*digits) || *digits == '.')) return nullptr;  // neither inf nor nan
-    T value{};
-    const auto [stop, error] = std::from_chars(begin, end, value);
-    if (error == std::errc::invalid_argument) return nullptr;
-    if (error == std::errc::result_out_of_range) {  // too large, or so small that it is 0
-        const auto parsed = parseWhole<T>({begin, static_cast<std::size_t>(stop - begin)});
-        if (!parsed) return nullptr;
-        value = *parsed;
-    }
-    out = value;
-    return stop;
-}
 
 }  // namespace
 
@@ -77,13 +43,13 @@ bool TextScanner::skipSeparator() noexcept {
 }
 
 bool TextScanner::readNumber(float& out) noexcept {
-    const char* const stop = readReal(at_, end_, out);
+    const char* const stop = Format::readNumber(at_, end_, out);
     if (stop != nullptr) at_ = stop;
     return stop != nullptr;
 }
 
 bool TextScanner::readNumber(double& out) noexcept {
-    const char* const stop = readReal(at_, end_, out);
+    const char* const stop = Format::readNumber(at_, end_, out);
     if (stop != nullptr) at_ = stop;
     return stop != nullptr;
 }
@@ -111,10 +77,9 @@ void appendNumber(double value, std::string& out) {
 }
 
 void appendNumber(double value, int digits, std::string& out) {
-    const double magnitude = std::fabs(value);
     Decimal decimal(value);
     decimal.roundToSignificant(digits);
-    if (magnitude == 0 || (magnitude >= kMinPlain && magnitude < kMaxPlain)) {
+    if (Format::isPlain(value)) {
         decimal.appendFixed(out);
     } else {
         decimal.appendScientific(out);

@@ -44,7 +44,7 @@ bool ValueTraits<SmartPtr<Color>>::parse(std::string_view text, SmartPtr<Color>&
 }
 std::string ValueTraits<SmartPtr<Color>>::print(const SmartPtr<Color>& value) {
     std::string result;
-    if (value) appendColor(*value, result);
+    if (value) Color::appendHex(value->rgb(), result);
     return result;
 }
 std::string_view ValueTraits<SmartPtr<Color>>::expectation() noexcept {

@@ -19,6 +19,8 @@ constexpr std::size_t kSliceSize = 256U << 20;  // expat counts bytes of one cal
 /// What expat's commoner errors mean for the writer of the document.
 const char* describe(XML_Error error) noexcept {
     switch (error) {
+        case XML_ERROR_SYNTAX:
+            return "something other than a tag stands before the top element (take it out; a document starts with <)";
         case XML_ERROR_NO_ELEMENTS:
             return "the document ends before its elements are closed";
         case XML_ERROR_UNCLOSED_TOKEN:
@@ -31,8 +33,18 @@ const char* describe(XML_Error error) noexcept {
             return "an attribute is given twice";
         case XML_ERROR_UNDEFINED_ENTITY:
             return "an unknown entity (only &amp; &lt; &gt; &quot; &apos; and &#number; exist)";
+        case XML_ERROR_BAD_CHAR_REF:
+            return "an &#number; that is no character of XML (&#9; &#10; &#13; and most from &#32; on are)";
+        case XML_ERROR_UNCLOSED_CDATA_SECTION:
+            return "the document ends inside <![CDATA[ (close it with ]]>)";
+        case XML_ERROR_XML_DECL:
+            return "the <?xml …?> line is not well-formed (write <?xml version=\"1.0\" encoding=\"UTF-8\"?>)";
+        case XML_ERROR_INCORRECT_ENCODING:
+            return "the document is not in the encoding that its <?xml …?> line names (correct the name)";
         case XML_ERROR_UNBOUND_PREFIX:
             return "a prefix without its declaration (xmlns:prefix=\"…\")";
+        case XML_ERROR_UNDECLARING_PREFIX:
+            return "a prefix is declared as nothing (give xmlns:prefix its namespace)";
         case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
             return "something follows the end of the top element";
         case XML_ERROR_MISPLACED_XML_PI:
@@ -133,8 +145,8 @@ private:
         const XML_Error error = XML_GetErrorCode(parser_.get());
         if (error == XML_ERROR_NO_ELEMENTS && !sawElement_) return false;
         if (error == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
-        if (error == XML_ERROR_UNKNOWN_ENCODING || error == XML_ERROR_INCORRECT_ENCODING) {
-            raise(Exception(3015, {String(encoding_)}), "ExpatTokenizer", __LINE__, getPlace());
+        if (error == XML_ERROR_UNKNOWN_ENCODING) {
+            raise(Exception(3015, {quoteForMessage(String(encoding_))}), "ExpatTokenizer", __LINE__, getPlace());
         }
         raise(Exception(3000, {String(describe(error))}), "ExpatTokenizer", __LINE__, getPlace());
     }
@@ -195,6 +207,12 @@ private:
         }
     }
 
+    void declare(const char* encoding) {
+        if (!encoding_.empty()) return;  // the override wins
+        encoding_ = encoding;
+        isUtf8_ = isUtf8(encoding_);
+    }
+
     static XmlNameToken split(const char* name) noexcept {
         const std::string_view text(name);
         const std::size_t at = text.find(kSeparator);
@@ -227,8 +245,7 @@ private:
         of(self).guard([&](auto& t) { t.handler_.text({text, static_cast<std::size_t>(length)}); });
     }
     static void onDeclaration(void* self, const XML_Char*, const XML_Char* encoding, int) {
-        ExpatTokenizer& tokenizer = of(self);
-        if (tokenizer.encoding_.empty() && encoding != nullptr && !isUtf8(encoding)) tokenizer.isUtf8_ = false;
+        if (encoding != nullptr) of(self).guard([&](auto& t) { t.declare(encoding); });
     }
     static void onNamespace(void* self, const XML_Char*, const XML_Char*) { ++of(self).namespaces_; }
     static void onDoctype(void* self, const XML_Char*, const XML_Char*, const XML_Char*, int) {
@@ -240,7 +257,7 @@ private:
     std::string_view uncounted_;  // what the counter has not seen of a document that lies in memory
     bool isUtf8_ = true;
     XmlTokenHandler& handler_;
-    std::string encoding_;
+    std::string encoding_;                   // given by the caller, else declared by the document
     std::optional<std::string_view> whole_;  // what is left of a document that lies in memory
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser_;
     Vector<XmlAttributeToken> attributes_;

@@ -30,6 +30,30 @@ Vector<std::string_view> namesOf(const Rows& rows) {
     return names;
 }
 
+/// The last one of `tokens` was given before: with the prefix and without it a name means the same.
+bool isRepeated(std::span<const XmlAttributeToken> tokens, const XmlNamespace& space) noexcept {
+    const XmlNameToken& name = tokens.back().name;
+    return std::ranges::any_of(tokens.first(tokens.size() - 1), [&](const XmlAttributeToken& other) {
+        return other.name.uri.size() != name.uri.size() && other.name.local == name.local &&
+               (other.name.uri.empty() || other.name.uri == space.uri);
+    });
+}
+
+/// The elements that take this child, for messages: `"a", "b"`; empty when none does.
+String parentsOf(const XmlKey& child) {
+    constexpr int kNamed = 4;
+    std::string names;
+    int count = 0;
+    for (const XmlObjectTypeInfo* const parent : XmlObjectFactory::instance().typeInfos()) {
+        const XmlElementTypeInfo* const member = parent->isAbstract() ? nullptr : parent->findElement(child.name);
+        if (member == nullptr || member->getNamespace().uri != child.namespaceUri) continue;
+        if (count > 0) names += ", ";
+        if (++count > kNamed) return String(names + "\u2026");
+        names.append("\"").append(parent->getKey().name).append("\"");
+    }
+    return String(names);
+}
+
 }  // namespace
 
 class SaxParserImpl::Body final : public XmlTokenHandler, public SaxParserContext {
@@ -170,20 +194,27 @@ private:
         object->setPlace(getPlace());
         object->initialize(XmlObjPtr<XmlObject>(parent), *this);
         frames_.push_back({object.get(), &info, inherited_.mark()});
-        for (const XmlAttributeToken& attribute : attributes) setAttribute(*object, info, attribute);
+        for (std::size_t i = 0; i < attributes.size(); ++i) setAttribute(*object, info, attributes.first(i + 1));
         if (inheritAttributes_) inherited_.hand(*object, info);
         return object;
     }
 
-    void setAttribute(XmlObject& object, const XmlObjectTypeInfo& info, const XmlAttributeToken& token) {
+    /// The last one of `tokens`; those before it are set.
+    void setAttribute(XmlObject& object, const XmlObjectTypeInfo& info, std::span<const XmlAttributeToken> tokens) {
+        const XmlAttributeToken& token = tokens.back();
         const std::string_view name = token.name.local;
         const bool foreign = !token.name.uri.empty() && token.name.uri != info.getNamespace().uri;
-        if (const auto* const attribute = foreign ? nullptr : info.findAttribute(name)) {
+        const auto* const attribute = foreign ? nullptr : info.findAttribute(name);
+        const int id = foreign || attribute != nullptr ? -1 : XmlObjectFactory::instance().findInheritable(name);
+        const bool isKnown = attribute != nullptr || id >= 0;
+        if (isKnown && isRepeated(tokens, info.getNamespace())) {
+            warn(3019, {String(name), info.getElementName()}, getPlace());
+        } else if (attribute != nullptr) {
             XmlValueBox* const value = parse(attribute->getType(), info, token);
             if (value == nullptr) return;
             if (attribute->isInherited()) carry(attribute->inheritableId(), attribute->getType(), *value, info);
             attribute->setGiven(object, value);
-        } else if (const int id = foreign ? -1 : XmlObjectFactory::instance().findInheritable(name); id >= 0) {
+        } else if (id >= 0) {
             const XmlValueType& type =
                 *XmlObjectFactory::instance().inheritableNames()[static_cast<std::size_t>(id)].type;
             XmlValueBox* const value = parse(type, info, token);
@@ -222,16 +253,28 @@ private:
 
     void tellUnknownElement(const XmlNameToken& name) {
         const XmlObjectTypeInfo& info = *frames_.back().info;
-        if (unrecognized_ == UnrecognizedElementTreatment::SkipSilently) return;
         const bool refuse = unrecognized_ == UnrecognizedElementTreatment::Refuse;
+        const bool isSilent = unrecognized_ == UnrecognizedElementTreatment::SkipSilently;
+        if (isSilent || (!refuse && warnings_ > Limits::kWarnings)) return;
         if (info.findElement(name.local) != nullptr) {
             problem(refuse, 3016, {quoted(name.local), String(info.getNamespace().uri)});
+            return;
+        }
+        if (XmlObjectFactory::instance().findTypeInfo({name.uri, name.local}) != nullptr) {
+            tellMisplacedElement(refuse, name);
             return;
         }
         const std::string_view near = nearestName(name.local, namesOf(info.elements()));
         VariantArray arguments{quoted(name.local), info.getElementName()};
         if (!near.empty()) arguments.emplace_back(String(near));
         problem(refuse, near.empty() ? 3004 : 3005, std::move(arguments));
+    }
+
+    void tellMisplacedElement(bool refuse, const XmlNameToken& name) {
+        const String parents = parentsOf({name.uri, name.local});
+        VariantArray arguments{String(name.local), frames_.back().info->getElementName()};
+        if (!parents.isEmpty()) arguments.emplace_back(parents);
+        problem(refuse, parents.isEmpty() ? 3020 : 3018, std::move(arguments));
     }
 
     void tellUnknownAttribute(const XmlObjectTypeInfo& info, std::string_view name) {

@@ -15,7 +15,9 @@ class XmlValueType;
 /// Knows the record of every class. Filled while the library is loaded, only read afterwards.
 class XmlObjectFactory {
 public:
-    /// The factory with every class of the library registered.
+    /// The factory with the classes of the library that its registrar registers. The registrar is set while the library
+    /// is loaded; a program that links it statically and never refers to VexaEngine has no registrar and calls
+    /// registerAll() of vexa/engine/ClassList.h itself.
     static XmlObjectFactory* get();
     /// The factory as it is: for the records themselves, while they register.
     static XmlObjectFactory& instance();

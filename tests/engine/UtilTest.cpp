@@ -1,14 +1,16 @@
-#include <gtest/gtest.h>
+#include "vexa/util/Util.h"
 
 #include <bit>
 #include <chrono>
 #include <cmath>
 #include <limits>
 
-#include "vexa/util/Util.h"
+#include "tests/engine/EngineTestTools.h"
 
 namespace VEXA {
 namespace {
+
+using Testing::Case;
 
 constexpr float kLargest = std::numeric_limits<float>::max();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
@@ -16,43 +18,26 @@ constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kSmallest = std::numeric_limits<float>::denorm_min();
 
 TEST(UtilRanges, OneExtremeMovesToTheNextRoundValue) {
-    const struct {
-        double value;
-        float expected;
-        const char* why;
-    } cases[] = {
+    const Case<double, float> cases[] = {
         {0, 0, "nothing to round"},
         {7, 8, "twos below 20, after scaling to two digits: 70 to 80 stands for 7"},
         {10, 12, "a round value moves on"},
-        {19, 20, "the last of the twos"},
         {19.2, 25, "the ceiling 20 comes first, and a five lies beyond it"},
-        {20, 25, "fives from 20 on"},
-        {37, 40, "fives"},
         {49, 50, "the last of the fives"},
         {49.5, 60, "the ceiling 50 belongs to the tens"},
-        {50, 60, "tens from 50 on"},
-        {99, 100, "the last of the tens"},
         {99.5, 110, "the ceiling 100 moves on by a ten"},
         {100, 120, "three digits scale down"},
-        {1234, 1400, "the ceiling of 12.34 is 13"},
-        {0.5, 0.6F, "fractions scale up"},
         {0.3, 0.35F, "the scaled decimal is 30, not a hair above"},
-        {-7, -8, "away from zero"},
-        {-23, -25, "away from zero"},
         {-0.07, -0.08F, "away from zero"},
         {1.55e-40, 1.8e-40F, "subnormal numbers have round neighbours, too"},
         {3.4e38, kLargest, "the next one, 3.5e38, is none of single precision"},
-        {1e300, kLargest, "cut to the range of float"},
-        {kInfinity, kLargest, "infinity, too"},
-        {-kInfinity, -kLargest, "and its negative"},
+        {-kInfinity, -kLargest, "infinity, too"},
         {kNaN, 0, "no number"},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(static_cast<float>(Util::adjustValueRange(c.value)), c.expected) << c.value << ": " << c.why;
-}
+        EXPECT_EQ(static_cast<float>(Util::adjustValueRange(c.in)), c.out) << c.in << ": " << c.why;
 
-// Every exponent, three mantissas: far more than a chart ever sees, and every one of them is finite and outward.
-TEST(UtilRanges, OneExtremeMovesOutwardsWhateverItsSize) {
+    // Every exponent, three mantissas: far more than a chart ever sees, and every one of them is finite and outward.
     for (std::uint32_t high = 0; high < 0xff; ++high) {
         for (const std::uint32_t mantissa : {1U, 0x400000U, 0x7fffffU}) {
             const float value = std::bit_cast<float>(high << 23 | mantissa);
@@ -65,56 +50,30 @@ TEST(UtilRanges, OneExtremeMovesOutwardsWhateverItsSize) {
     }
 }
 
-struct BoundsCase {
-    float min, max, step;
-    float expectedMin, expectedMax;
-    const char* why;
-};
-
-const BoundsCase kBoundsCases[] = {
-    {-23, 37, 10, -30, 40, "both outwards"},
-    {-5, -1, 2, -6, 0, "a range below zero reaches up to it"},
-    {0, 0, 5, 0, 0, "nothing to widen"},
-    {0, 10, 2, 0, 10, "bounds on the grid stay"},
-    {-10, 0, 2, -10, 0, "bounds on the grid stay"},
-    {5, 12, 5, 5, 15, "above zero the grid starts at the minimum"},
-    {5, 3, 5, 5, 5, "a maximum below the minimum becomes it"},
-    {5, 5, 5, 5, 5, "a single value"},
-    {0, 1, 0.1F, 0, 1.0000001F, "ten tenths, summed in single precision, are a hair above 1, and that is enough"},
-    {-1, 1, 1e9F, -1e9F, 1e9F, "a step wider than the range"},
-};
-
 TEST(UtilRanges, BoundsMoveOntoTheStepGrid) {
-    for (const BoundsCase& c : kBoundsCases) {
-        float min = c.min;
-        float max = c.max;
-        Util::adjustValueRange(min, max, c.step);
-        EXPECT_EQ(min, c.expectedMin) << c.why;
-        EXPECT_EQ(max, c.expectedMax) << c.why;
-    }
-}
-
-const BoundsCase kHostileBounds[] = {
-    {0, 16777220, 1, 0, 16777220, "a sum of ones stops growing at 2^24"},
-    {-16777220, 0, 1, -16777220, 0, "downwards, too"},
-    {0, 3e9F, 7, 0, 3e9F, "hundreds of millions of steps: the nearest float to a multiple of 7"},
-    {1, 2, 1e-10F, 1, 2, "the first step is lost already"},
-    {0, 1, kSmallest, 0, 1, "the smallest step there is"},
-    {0, kLargest, 1, 0, kLargest, "the longest way there is"},
-    {0, kLargest, 3e38F, 0, kLargest, "the next multiple would be infinite"},
-    {-kLargest, kLargest, 3e38F, -kLargest, kLargest, "on both sides"},
-    {-1, 1, kLargest, -kLargest, kLargest, "the largest step"},
-    {-1, 1, 0, -1, 1, "no step, no grid"},
-    {-1, 1, -2, -1, 1, "a step backwards"},
-    {-1, 1, kNaN, -1, 1, "no number"},
-    {-1, 1, kInfinity, -1, 1, "no multiple of infinity is finite but 0"},
-    {-1, kInfinity, 2, -1, kInfinity, "a bound that cannot be reached stays"},
-    {-kInfinity, 1, 2, -kInfinity, 1, "a bound that cannot be reached stays"},
-};
-
-TEST(UtilRanges, HostileBoundsEndSoon) {
+    const struct {
+        float min, max, step, expectedMin, expectedMax;
+        const char* why;
+    } cases[] = {
+        {-23, 37, 10, -30, 40, "both outwards"},
+        {-5, -1, 2, -6, 0, "a range below zero reaches up to it"},
+        {-10, 10, 2, -10, 10, "bounds on the grid stay"},
+        {5, 12, 5, 5, 15, "above zero the grid starts at the minimum"},
+        {5, 3, 5, 5, 5, "a maximum below the minimum becomes it"},
+        {0, 1, 0.1F, 0, 1.0000001F, "ten tenths, summed in single precision, are a hair above 1: that is enough"},
+        // What would hang or overflow a loop.
+        {-16777220, 16777220, 1, -16777220, 16777220, "a sum of ones stops growing at 2^24"},
+        {0, 3e9F, 7, 0, 3e9F, "hundreds of millions of steps: the nearest float to a multiple of 7"},
+        {1, 2, 1e-10F, 1, 2, "the first step is lost already"},
+        {0, 1, kSmallest, 0, 1, "the smallest step there is"},
+        {-kLargest, kLargest, 3e38F, -kLargest, kLargest, "the next multiple would be infinite"},
+        {-1, 1, 0, -1, 1, "no step, no grid"},
+        {-1, 1, kNaN, -1, 1, "no number"},
+        {-1, 1, kInfinity, -1, 1, "no multiple of infinity is finite but 0"},
+        {-1, kInfinity, 2, -1, kInfinity, "a bound that cannot be reached stays"},
+    };
     const auto start = std::chrono::steady_clock::now();
-    for (const BoundsCase& c : kHostileBounds) {
+    for (const auto& c : cases) {
         float min = c.min;
         float max = c.max;
         Util::adjustValueRange(min, max, c.step);
@@ -129,26 +88,17 @@ TEST(UtilRanges, HostileBoundsEndSoon) {
 }
 
 TEST(UtilRanges, NextUnitIsOfTheSeriesOneTwoFive) {
-    const struct {
-        float value;
-        float expected;
-        const char* why;
-    } cases[] = {
+    const Case<float, float> cases[] = {
         {0.2F, 0.2F, "a member is its own next"},
         {0.21F, 0.5F, "between members"},
-        {3, 5, "between members"},
         {6, 10, "the next decade"},
-        {1234, 2000, "far decades"},
         {0.05F, 0.1F, "no step below a tenth"},
-        {0, 0.1F, "nothing wanted"},
-        {-4, 0.1F, "negative"},
-        {0.9e38F, 1e38F, "the last decade"},
+        {-kInfinity, 0.1F, "negative"},
         {2.5e38F, kLargest, "5e38 is none of single precision"},
         {kInfinity, kLargest, "infinity"},
-        {-kInfinity, 0.1F, "negative infinity"},
         {kNaN, 0.1F, "no number"},
     };
-    for (const auto& c : cases) EXPECT_FLOAT_EQ(Util::getNextFrequencyUnit(c.value), c.expected) << c.why;
+    for (const auto& c : cases) EXPECT_FLOAT_EQ(Util::getNextFrequencyUnit(c.in), c.out) << c.why;
 }
 
 TEST(UtilRanges, WholePartsRoundUp) {
@@ -157,10 +107,7 @@ TEST(UtilRanges, WholePartsRoundUp) {
         const char* why;
     } cases[] = {
         {10, 3, 4, "rounded up"},
-        {9, 3, 3, "even"},
         {-10, 3, -3, "up is towards zero here"},
-        {10, -3, -3, "up is towards zero here"},
-        {2147483647, 1, 2147483647, "2^31 in single precision, cut to the range of int"},
         {-2147483647 - 1, -1, 2147483647, "the one quotient of ints that is none"},
         {12, 0, 12, "no parts: the whole"},
     };
@@ -175,21 +122,47 @@ TEST(UtilRanges, StepDividesTheSpanIntoThatManyParts) {
         const char* why;
     } cases[] = {
         {60, 5, 20, "12 becomes 20"},
-        {60, 10, 10, "6 becomes 10"},
         {0.6F, 4, 0.2F, "0.15 becomes 0.2"},
         {0.05F, 5, 0.1F, "no step below a tenth"},
-        {1e12F, 5, 2e11F, "spans beyond the integers"},
         {0, 7, 0, "no span"},
         {60, 0, 0.1F, "no parts"},
-        {60, -4, 0.1F, "fewer than none"},
         {60, 2147483647, 1, "more parts than units: at least a unit"},
         {-60, 5, 0.1F, "a negative span"},
         {kNaN, 5, 0.1F, "no number"},
         {kSmallest, 5, 0.1F, "scaled up until its scale is infinite"},
-        {kLargest, 1, kLargest, "beyond the series"},
         {kInfinity, 5, kLargest, "infinity"},
     };
     for (const auto& c : cases) EXPECT_FLOAT_EQ(Util::getFloatMinUnit(c.span, c.parts), c.expected) << c.why;
+}
+
+TEST(UtilTransforms, ListsMoveAPointAsInSvg) {
+    using enum TransformKind;
+    const Transform shift{Translate, {}, {Length(10), Length(20)}};
+    const Transform scale{Scale, {2, 3}, {}};
+    const struct {
+        Vector<Transform> list;
+        PointF point, expected;
+        const char* why;
+    } cases[] = {
+        {{{TransformKind::Matrix, {2, 3, 5, 7, 11, 13}, {}}}, {1, 10}, {63, 86}, "ax + cy + e, bx + dy + f"},
+        {{{Translate, {}, {Length(3, LengthUnit::Pt), Length(-1)}}}, {1, 1}, {5, 0}, "lengths in px: 3 pt are 4"},
+        {{{Scale, {2, -3}, {}}}, {4, 5}, {8, -15}, "two factors"},
+        {{{Rotate, {90}, {Length(10), Length(0)}}}, {11, 0}, {10, 1}, "clockwise on the screen about (10, 0)"},
+        {{{SkewX, {0.5}, {}}}, {1, 4}, {3, 4}, "half of y to the right"},
+        {{{SkewY, {0.5}, {}}}, {4, 1}, {4, 3}, "half of x down"},
+        {{{None, {9, 9, 9, 9, 9, 9}, {}}}, {1, 2}, {1, 2}, "no kind"},
+        {{{static_cast<TransformKind>(7), {9, 9, 9, 9, 9, 9}, {}}}, {1, 2}, {1, 2}, "an unknown kind"},
+        {{shift, scale}, {1, 1}, {12, 23}, "the last of a list comes first to the point"},
+        {{scale, shift}, {1, 1}, {22, 63}, "the other way round"},
+        {{{Scale, {1e300, -1e300}, {}}}, {1, 1}, {kLargest, -kLargest}, "numbers beyond single precision are cut"},
+    };
+    for (const auto& c : cases) {
+        VEXA::Matrix matrix(1, 0, 0, 1, 100, 0);
+        Util::addTransformationList(matrix, c.list);
+        const PointF point = matrix.apply(c.point);
+        EXPECT_NEAR(point.x, c.expected.x + 100, 1e-5F) << c.why << ", in the matrix that is there";
+        EXPECT_NEAR(point.y, c.expected.y, 1e-5F) << c.why;
+    }
 }
 
 }  // namespace
