@@ -2,42 +2,25 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
-#include <chrono>
-#include <condition_variable>
-#include <mutex>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 namespace VEXA::Cli {
 namespace {
 
-/// Lets the jobs end in the reverse of their order: each waits for the one after it.
-class ReverseOrder {
-public:
-    explicit ReverseOrder(std::size_t count) : turn_(count) {}
-
-    void endOf(std::size_t index) {
-        std::unique_lock lock(mutex_);
-        changed_.wait(lock, [&] { return turn_ == index + 1; });
-        turn_ = index;
-        changed_.notify_all();
-    }
-
-private:
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    std::size_t turn_;
-};
-
 TEST(JobRunner, ReportsInTheOrderOfTheJobsWhateverTheOrderOfTheirEnds) {
     constexpr std::size_t kCount = 6;
-    ReverseOrder order(kCount);
+    std::atomic<std::size_t> turn{kCount};  // the jobs end in the reverse of their order
     std::string told;
     std::vector<std::size_t> seen;
     const auto job = [&](std::size_t index) {
-        order.endOf(index);
+        for (std::size_t last = turn; last != index + 1; last = turn) turn.wait(last);
+        turn = index;
+        turn.notify_all();
         return RenderResult{index % 2 == 1, std::to_string(index)};
     };
     runJobs(kCount, kCount, job,
@@ -52,19 +35,14 @@ TEST(JobRunner, ReportsInTheOrderOfTheJobsWhateverTheOrderOfTheirEnds) {
 }
 
 TEST(JobRunner, RunsEveryJobOnceOnNoMoreThreadsThanAllowed) {
-    struct Case {
-        std::size_t count;
-        unsigned threads;
-        const char* why;
-    };
-    const Case cases[] = {
+    const std::tuple<std::size_t, unsigned, const char*> cases[] = {
         {0, 4, "nothing to do"},          {1, 4, "one job needs no thread"},  {3, 1, "one thread"},
         {2, 8, "more threads than jobs"}, {200, 3, "more jobs than threads"}, {5, 0, "an unknown number of cores"},
     };
-    for (const Case& testCase : cases) {
+    for (const auto& [count, threads, why] : cases) {
         std::atomic<unsigned> running{0};
         std::atomic<unsigned> most{0};
-        std::vector<std::atomic<int>> runs(testCase.count);
+        std::vector<std::atomic<int>> runs(count);
         std::size_t reports = 0;
         const auto job = [&](std::size_t index) {
             const unsigned now = ++running;
@@ -74,12 +52,13 @@ TEST(JobRunner, RunsEveryJobOnceOnNoMoreThreadsThanAllowed) {
             --running;
             return RenderResult{};
         };
-        runJobs(testCase.count, testCase.threads, job,
-                {[&](std::size_t index, const RenderResult&) { EXPECT_EQ(index, reports++) << testCase.why; },
-                 [](std::size_t) {}});
-        EXPECT_EQ(reports, testCase.count) << testCase.why;
-        for (const auto& count : runs) EXPECT_EQ(count, 1) << testCase.why;
-        EXPECT_LE(most, std::max(testCase.threads, 1U)) << testCase.why;
+        const auto report = [&, why = why](std::size_t index, const RenderResult&) {
+            EXPECT_EQ(index, reports++) << why;
+        };
+        runJobs(count, threads, job, {report, [](std::size_t) {}});
+        EXPECT_EQ(reports, count) << why;
+        for (const auto& times : runs) EXPECT_EQ(times, 1) << why;
+        EXPECT_LE(most, std::max(threads, 1U)) << why;
     }
 }
 

@@ -1,13 +1,14 @@
 #include "vexa/engine/VexaEngine.h"
 
 #include "tests/engine/EngineTestTools.h"
+#include "vexa/cartesian/VexaPlotArea.h"
 #include "vexa/engine/ChartDescription.h"
+#include "vexa/pie/VexaPie.h"
+#include "vexa/spider/VexaSpider.h"
 #include "vexa/support/core/Limits.h"
 
-namespace VEXA {
+namespace VEXA::Testing {
 namespace {
-
-using namespace Testing;
 
 std::string elementAlone(const std::string& name) {
     return "<?xml version=\"1.0\"?>\n <" + name + " xmlns=\"http://vexa-charts.org/2008/vx\"/>";
@@ -22,7 +23,6 @@ TEST(Engine, RefusesWhatIsNoChartDocument) {
     } cases[] = {
         {"", kNullPointer, "empty", "an empty stream"},
         {elementAlone("plot-area"), refused, advice, "a chart element that is no root"},
-        {elementAlone("defs"), refused, "\"defs\"", "not even an area"},
         {elementAlone("chart"), " at 2:2", "chart", "an unknown top element: the parser's error with its place"},
         {rootWith("", "\n<title width=\"wide\"/>"), " at 2:", "wide", "a value that does not parse"},
         {rootWith("", "\n</pie>"), " at 2:", "", "malformed XML"},
@@ -37,7 +37,6 @@ TEST(Engine, RefusesWhatIsNoChartDocument) {
 TEST(Engine, RenderPageBracketsThePictureWithADocumentOfOnePage) {
     const Case<const char*, const char*> cases[] = {
         {"", "800 600", "the reference size"},
-        {"width='50%' height='50%'", "400 300", "percent of it"},
         {"width='3in' height='20'", "288 20", "a size in px"},
         {"width='400' height='300' viewBox='0 0 10 10'", "400 300", "a view box does not change the page"},
     };
@@ -77,14 +76,11 @@ TEST(Engine, TellsReadersWhatTheChartIsAbout) {
         {"", "", "nothing to tell"},
         {"<spider>" + axes + "<spider-serie/><spider-serie/></spider>",
          "Radar chart of 2 series on 3 axes: Speed, Power.", "axes without a name are counted, not listed"},
-        {"<spider><spider-axis/></spider>", "Radar chart of 0 series on 1 axis.", "no names at all"},
         {"<pie pie-shape='doughnut'/>", "Doughnut chart of 0 slices.", "with a hole"},
         {"<pie>" + many + "</pie>", "Pie chart of 14 slices: 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, ….", "a long list"},
         {"<pie>" + longSlice + "</pie>", "Pie chart of 1 slice: " + cut + ".", "so is a long name"},
-        {"<plot-area>" + bars + "<line-chart><serie/></line-chart><bar-chart/></plot-area>",
-         "Chart of 3 series as bars and lines.", "each kind once"},
-        {"<plot-area><area-chart/><line-chart/><bar-chart/></plot-area>", "Chart of 0 series as areas, lines and bars.",
-         "in document order"},
+        {"<plot-area>" + bars + "<line-chart><serie/></line-chart><area-chart/><bar-chart/></plot-area>",
+         "Chart of 3 series as bars, lines and areas.", "each kind once, in document order"},
         {"<spider/><pie/>", "Radar chart of 0 series on 0 axes. " + noSlices, "a sentence for each body"},
         {"<pie/><pie/><pie/><pie/><pie/>", noSlices + ' ' + noSlices + ' ' + noSlices + ' ' + noSlices,
          "but not for a hundred"},
@@ -109,6 +105,60 @@ TEST(Engine, WarnsOnceOfEachElementThatIsNotPainted) {
     EXPECT_NE(log.records.at(0).message.find("\"pie\""), String::npos);
 }
 
+TEST(EngineInheritance, NearestAncestorThatCarriesTheAttributeDecides) {
+    const struct {
+        std::string root, plot, chart, serie, point;
+        const char *attribute, *value, *why;
+    } cases[] = {
+        {"", "", "", "fill='#010203'", "", "fill", "#010203", "from the series"},
+        {"fill='#040506'", "fill='#010203'", "", "", "", "fill", "", "an area's fill is its own and is not handed on"},
+        {"", "fill='red'", "fill='#010203'", "", "", "fill", "#010203",
+         "a container that does not know it hands it on"},
+        {"font-size='20'", "", "", "", "", "font-size", "20", "from the root through everything"},
+        {"font-size='20'", "", "", "font-size='12px'", "", "font-size", "12", "a default that is given stops it"},
+        {"", "", "fill-opacity='0.5'", "fill-opacity='1'", "", "fill-opacity", "1", "and is handed on itself"},
+        {"", "width='50%'", "", "", "", "width", "20", "a width is no attribute to hand on"},
+    };
+    for (const auto& c : cases) {
+        const auto root =
+            load(rootWith(c.root, "<plot-area " + c.plot + "><line-chart " + c.chart + "><serie " + c.serie +
+                                      "><data-point " + c.point + "/></serie></line-chart></plot-area>"));
+        const auto& chart = *static_cast<VexaPlotArea&>(*root->getBodies()[0]).getCharts()[0];
+        const auto& point = chart.getSeries()[0]->getDataPoints()[0];
+        EXPECT_EQ(attributeOf(*point, c.attribute), c.value) << c.why;
+    }
+    const auto root = load(rootWith("",
+                                    "<pie caption-placement='center'><slice/></pie>"
+                                    "<spider min='5'><spider-axis/></spider>"));
+    EXPECT_EQ(attributeOf(*static_cast<VexaPie&>(*root->getBodies()[0]).getSlices()[0], "caption-placement"), "center");
+    EXPECT_EQ(attributeOf(*static_cast<VexaSpider&>(*root->getBodies()[1]).getAxes()[0], "min"), "-2147483648")
+        << "bounds of a spoke stand alone";
+}
+
+TEST(EngineInheritance, TitleHasTheRootsFont) {
+    const WithFonts fonts;
+    const auto text = [](const std::string& root, const std::string& title) {
+        return drawingCalls(rootWith(root, "<title value='T' " + title + "/>"), "text").at(0);
+    };
+    const std::string style = "font-size='20' font-weight='bold' font-style='italic' font-family='serif'";
+    EXPECT_TRUE(text(style, "").says(R"("font":{"family":"serif","size":20,"weight":"bold","style":"italic"})"));
+    EXPECT_EQ(text(style, "").origin, "0,20") << "and is laid out in it";
+    EXPECT_TRUE(text(style, "font-size='12'").says(R"("size":12,"weight":"bold")")) << "each attribute for itself";
+    EXPECT_EQ(text("caption-color='red'", "").fill, "#000000") << "a title's text has a colour of its own";
+}
+
+TEST(EngineInheritance, RadarChartsTakeFontsFromAboveAndPaintFromTheirOwn) {
+    const auto calls =
+        drawingCalls(rootWith("font-size='20' theme='none' fill='#111111'",
+                              "<spider fill='#222222' stroke='#333333' caption-color='#444444' draw-web='false'>"
+                              "<spider-axis id='a' caption='A'/><spider-serie/></spider>"));
+    ASSERT_EQ(calls.size(), 5U) << "two backgrounds, a series, a spoke and its caption";
+    EXPECT_EQ(calls[2].fill + calls[2].stroke, "") << "the areas' paint is not the series'";
+    EXPECT_EQ(calls[3].stroke, "") << "nor the axis's";
+    EXPECT_EQ(calls[4].fill, "#444444") << "a caption colour is handed on";
+    EXPECT_TRUE(calls[4].says(R"("size":20)"));
+}
+
 std::size_t warningsOf(std::size_t count, const std::string& unknownElement) {
     std::string content = "<spider-axis id='a'/>";
     for (std::size_t i = 0; i < count; ++i) content += "<spider-serie fill='url(#none)'/>" + unknownElement;
@@ -126,4 +176,4 @@ TEST(Limits, WarningsOfADocument) {
 }
 
 }  // namespace
-}  // namespace VEXA
+}  // namespace VEXA::Testing

@@ -10,10 +10,8 @@
 #include "vexa/style/VexaLinearGradient.h"
 #include "vexa/style/VexaRadialGradient.h"
 
-namespace VEXA {
+namespace VEXA::Testing {
 namespace {
-
-using namespace Testing;
 
 XmlObjectTypeInfo* recordOf(const char* element) {
     return XmlObjectFactory::get()->findTypeInfo({chartNamespace().uri, element});
@@ -148,4 +146,4 @@ TEST(Registration, InheritedAttributesAreThoseOfStylingAndAFewMore) {
 }
 
 }  // namespace
-}  // namespace VEXA
+}  // namespace VEXA::Testing

@@ -4,10 +4,8 @@
 #include "vexa/spider/VexaSpider.h"
 #include "vexa/support/core/Limits.h"
 
-namespace VEXA {
+namespace VEXA::Testing {
 namespace {
-
-using namespace Testing;
 
 VexaSpider& spiderOf(VexaRoot& root) { return static_cast<VexaSpider&>(*root.getBodies()[0]); }
 
@@ -45,7 +43,6 @@ TEST(SpiderBudget, RingsAndSeriesBeyondThePictureAreLeftOutWithOneWarning) {
         const char *heights, *lost, *why;
     } cases[] = {
         {88, 1, "0 37.5 75 112.5 150 30 30 ||||", "", "all that there is"},
-        {87, 1, "0 37.5 75 112.5 150 30 ||||", "0 rings and 1 series", "the later series goes"},
         {55, 1, "75 112.5 150 30 ||||", "2 rings and 1 series", "the innermost rings go, the outermost one last"},
         {3, 1, "||||", "5 rings and 2 series", "the spokes stay"},
         {100, 2, "0 37.5 75 112.5 150 30 30 ||||30 30 ||||", "5 rings and 0 series", "two spiders of one picture"},
@@ -73,8 +70,7 @@ TEST(SpiderBudget, PointsWithoutTheirAxisAreTold) {
     } cases[] = {
         {axes, a + b + a, false, "", "the second of two for an axis has its axis"},
         {axes, b, false, "", "an axis may go without a point"},
-        {axes, unknown + a + unknown, false, "34016@2:3 34016@3:3",
-         "each at its own place, and ids are case-sensitive"},
+        {axes, unknown + a + unknown, false, "34016@2:3 34016@3:3", "each at its place; case counts"},
         {axes, a + b + nameless, false, "34000@2:1", "no search reaches it, and nothing shows it"},
         {axes + axes, a + b + unknown, false, "34016@2:3", "equal ids"},
         {axes, unknown + nameless, true, "34000@3:1", "a series that fails tells its failure only"},
@@ -92,16 +88,6 @@ TEST(SpiderBudget, PointsWithoutTheirAxisAreTold) {
     ASSERT_EQ(log.records.size(), 1U);
     EXPECT_NE(log.records[0].message.toUtf8().find("\"\\nxxx"), std::string::npos) << log.records[0].message.toUtf8();
     EXPECT_LT(log.records[0].message.length(), 200U) << "a long id is cut";
-}
-
-TEST(SpiderBudget, EqualAxisIdsShareTheirFirstPoint) {
-    const std::string axes = "<spider-axis id='a' min='0' max='10'/><spider-axis id='b' min='0' max='10'/>";
-    const std::string points =
-        "<spider-data-point axis-id='a' value='5'/><spider-data-point axis-id='a' value='8'/>"
-        "<spider-data-point axis-id='b' value='10'/>";
-    const auto calls = drawingCalls(
-        spiderWith("draw-web='false'", axes + axes + "<spider-serie>" + points + "</spider-serie>"), "path");
-    EXPECT_EQ(calls.at(0).points, "0,-75 150,0 0,75 -150,0");
 }
 
 TEST(SpiderBudget, ScalesBeyondAFloatKeepTheirProportions) {
@@ -134,7 +120,6 @@ TEST(Root, TellsThatNothingCanShow) {
         const char *codes, *why;
     } cases[] = {
         {"viewBox='-5 -5 100 100'", 800, "", "an ordinary page"},
-        {"width='0'", 800, "34017@2:1", "no width"},
         {"height='-5'", 800, "34017@2:1", "below nothing"},
         {"height='0' viewBox='3e38 0 1 1'", 800, "34017@2:1", "the page explains it all"},
         {"", std::numeric_limits<float>::quiet_NaN(), "34017@2:1", "a caller's width that is no number"},
@@ -170,4 +155,4 @@ TEST(Limits, PictureCorners) {
     }
 }
 
-}  // namespace VEXA
+}  // namespace VEXA::Testing

@@ -3,10 +3,8 @@
 #include "tests/engine/StyleTestTools.h"
 #include "vexa/support/core/Limits.h"
 
-namespace VEXA {
+namespace VEXA::Testing {
 namespace {
-
-using namespace Testing;
 using enum ColorAspect;
 
 // #c80000 is (200, 0, 0): half of it is (100, 0, 0); a fifth of the way to white is (211, 51, 51).
@@ -53,7 +51,6 @@ TEST(Style, PaintIsTheDocumentsOrElseTheThemes) {
         {"opacity=0.2", true, blue, blue, "the theme's, whatever the document's opacity; a shaded one is opaque"},
         {"fill=#c80000", true, "#c80000/1 #640000/1 #d33333/1", "#c80000/1 #640000/1 #d33333/1", "the own one wins"},
         {"fill=none", true, "empty empty empty", blue, "an area's none keeps the theme out"},
-        {"fill=none", false, "empty empty empty", "empty empty empty", "none without a theme"},
     };
     for (const PaintCase& c : fills) {
         EXPECT_EQ(fillsOf<TestArea>(c), c.area) << c.why;
@@ -119,7 +116,6 @@ SmartPtr<Brush> gradientOf(const std::vector<SmartPtr<Color>>& colors) {
 TEST(Style, CylinderRunsFromDarkOverTheMainColourToDark) {
     const std::string blue = "linear 0:#193264/0.8 0.5:#3264c8/0.8 0.7:#3264c8/0.8 0.9:#193264/0.8";
     const std::string third = "linear 0:#640000/0.3 0.5:#c80000/0.3 0.7:#c80000/0.3 0.9:#640000/0.3";
-    const SmartPtr<Color> x = rgb(1);
     const struct {
         const char* why;
         SmartPtr<Brush> theme;
@@ -127,8 +123,7 @@ TEST(Style, CylinderRunsFromDarkOverTheMainColourToDark) {
         std::string expected;
     } cases[] = {
         {"a solid theme fill gives its opacity to all stops", solid(kBlue, 0.8F), "", blue},
-        {"of five stops the third", gradientOf({x, x, rgb(kRed), x, x}), "", third},
-        {"of four stops the third, too", gradientOf({x, x, rgb(kRed), x}), "", third},
+        {"of four stops the third", gradientOf({rgb(1), rgb(1), rgb(kRed), rgb(1)}), "", third},
         {"an own fill is the main colour", solid(kBlue), "fill=#c80000",
          "linear 0:#640000/1 0.5:#c80000/1 0.7:#c80000/1 0.9:#640000/1"},
         {"none leaves it to the theme, as for flat fills", solid(kBlue, 0.8F), "fill=none", blue},
@@ -147,7 +142,6 @@ TEST(Style, CylinderRunsFromDarkOverTheMainColourToDark) {
     const auto lie = [&](AxisOrientation axis) { return geometryOf(element->getCylinderFillBrush(axis, 0.5F)); };
     EXPECT_EQ(lie(AxisOrientation::Vertical), "0,0 1,0 box pad 1 0 0 1 0 0") << "across the bar";
     EXPECT_EQ(lie(AxisOrientation::Horizontal), "0,0 0,1 box pad 1 0 0 1 0 0");
-    EXPECT_EQ(lie(AxisOrientation::Automatic), "0,0 0,1 box pad 1 0 0 1 0 0");
 
     const auto root = load(rootWith("", R"(<defs><linear-gradient id="g"><stop offset="0" stop-color="#010203"/>
                                            <stop stop-color="#3264c8" stop-opacity="0.7"/></linear-gradient></defs>)"));
@@ -162,8 +156,8 @@ TEST(Style, StrokesCarryCapsJoinsMiterLimitAndDashesInPx) {
     const Case<const char*, const char*> cases[] = {
         {"stroke-dashoffset=6", "00 2 [] 0", "a plain line: butt and miter; an offset needs dashes"},
         {"stroke-linecap=round;stroke-linejoin=round;stroke-miterlimit=1pc", "11 16 [] 0", "round and round"},
-        {"stroke-linecap=square;stroke-dasharray=5 3pt 1;stroke-dashoffset=6pt", "20 2 [5 4 1] 8", "square"},
-        {"stroke-linejoin=bevel", "02 2 [] 0", "bevel"},
+        {"stroke-linecap=square;stroke-linejoin=bevel;stroke-dasharray=5 3pt 1;stroke-dashoffset=6pt", "22 2 [5 4 1] 8",
+         "square, bevel"},
     };
     for (const auto& c : cases) {
         const auto line = [](auto& object) {
@@ -224,7 +218,6 @@ TEST(Style, FontHasFamilyStyleAndWeight) {
     const Case<const char*, const char*> cases[] = {
         {"", "sans-serif 0 2", "normal style is 0, normal weight 2"},
         {"font-family=Charter;font-weight=bold;font-style=italic", "Charter 1 4", "bold weight is 4"},
-        {"font-style=oblique", "sans-serif 0 2", "only italic slants"},
         {"font-style=backslant", "sans-serif 0 2", "only italic slants"},
     };
     for (const auto& c : cases) {
@@ -249,7 +242,6 @@ TEST(Limits, FontSize) {
         {"", 800, 600, "12", "the default"},
         {"font-size=10%", 800, 600, "70.71", "a percentage is one of the diagonal: a tenth of 1000 / sqrt(2)"},
         {"font-size=10000", 100, 100, "10000", "the largest"},
-        {"font-size=10001", 100, 100, "10000", "a poster's worth more"},
         {"font-size=300000000000000000000000000000000000000in", 1, 1, "10000", "beyond single precision once in px"},
         {"font-size=-5", 100, 100, "0", "no negative sizes"},
         {"font-size=0%", infinity, infinity, "0", "0 times infinity is no number"},
@@ -260,4 +252,4 @@ TEST(Limits, FontSize) {
     }
 }
 
-}  // namespace VEXA
+}  // namespace VEXA::Testing

@@ -28,9 +28,7 @@ TEST(UtilRanges, OneExtremeMovesToTheNextRoundValue) {
         {99.5, 110, "the ceiling 100 moves on by a ten"},
         {100, 120, "three digits scale down"},
         {0.3, 0.35F, "the scaled decimal is 30, not a hair above"},
-        {-0.07, -0.08F, "away from zero"},
         {1.55e-40, 1.8e-40F, "subnormal numbers have round neighbours, too"},
-        {3.4e38, kLargest, "the next one, 3.5e38, is none of single precision"},
         {-kInfinity, -kLargest, "infinity, too"},
         {kNaN, 0, "no number"},
     };
@@ -64,7 +62,6 @@ TEST(UtilRanges, BoundsMoveOntoTheStepGrid) {
         // What would hang or overflow a loop.
         {-16777220, 16777220, 1, -16777220, 16777220, "a sum of ones stops growing at 2^24"},
         {0, 3e9F, 7, 0, 3e9F, "hundreds of millions of steps: the nearest float to a multiple of 7"},
-        {1, 2, 1e-10F, 1, 2, "the first step is lost already"},
         {0, 1, kSmallest, 0, 1, "the smallest step there is"},
         {-kLargest, kLargest, 3e38F, -kLargest, kLargest, "the next multiple would be infinite"},
         {-1, 1, 0, -1, 1, "no step, no grid"},
@@ -80,9 +77,9 @@ TEST(UtilRanges, BoundsMoveOntoTheStepGrid) {
         EXPECT_EQ(min, c.expectedMin) << c.why;
         EXPECT_EQ(max, c.expectedMax) << c.why;
     }
-    float min = kNaN;
+    float nan = kNaN;
     float max = 1;
-    Util::adjustValueRange(min, max, 2);
+    Util::adjustValueRange(nan, max, 2);
     EXPECT_EQ(max, 1) << "no number leaves its neighbour alone";
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }
@@ -91,7 +88,6 @@ TEST(UtilRanges, NextUnitIsOfTheSeriesOneTwoFive) {
     const Case<float, float> cases[] = {
         {0.2F, 0.2F, "a member is its own next"},
         {0.21F, 0.5F, "between members"},
-        {6, 10, "the next decade"},
         {0.05F, 0.1F, "no step below a tenth"},
         {-kInfinity, 0.1F, "negative"},
         {2.5e38F, kLargest, "5e38 is none of single precision"},
@@ -102,37 +98,27 @@ TEST(UtilRanges, NextUnitIsOfTheSeriesOneTwoFive) {
 }
 
 TEST(UtilRanges, WholePartsRoundUp) {
-    const struct {
-        int total, parts, expected;
-        const char* why;
-    } cases[] = {
-        {10, 3, 4, "rounded up"},
-        {-10, 3, -3, "up is towards zero here"},
-        {-2147483647 - 1, -1, 2147483647, "the one quotient of ints that is none"},
-        {12, 0, 12, "no parts: the whole"},
+    const Case<std::pair<int, int>, int> cases[] = {
+        {{10, 3}, 4, "rounded up"},
+        {{-2147483647 - 1, -1}, 2147483647, "the one quotient of ints that is none"},
+        {{12, 0}, 12, "no parts: the whole"},
     };
-    for (const auto& c : cases) EXPECT_EQ(Util::getIntMinUnit(c.total, c.parts), c.expected) << c.why;
+    for (const auto& c : cases) EXPECT_EQ(Util::getIntMinUnit(c.in.first, c.in.second), c.out) << c.why;
 }
 
 TEST(UtilRanges, StepDividesTheSpanIntoThatManyParts) {
-    const struct {
-        float span;
-        int parts;
-        float expected;
-        const char* why;
-    } cases[] = {
-        {60, 5, 20, "12 becomes 20"},
-        {0.6F, 4, 0.2F, "0.15 becomes 0.2"},
-        {0.05F, 5, 0.1F, "no step below a tenth"},
-        {0, 7, 0, "no span"},
-        {60, 0, 0.1F, "no parts"},
-        {60, 2147483647, 1, "more parts than units: at least a unit"},
-        {-60, 5, 0.1F, "a negative span"},
-        {kNaN, 5, 0.1F, "no number"},
-        {kSmallest, 5, 0.1F, "scaled up until its scale is infinite"},
-        {kInfinity, 5, kLargest, "infinity"},
+    const Case<std::pair<float, int>, float> cases[] = {
+        {{60, 5}, 20, "12 becomes 20"},
+        {{0.05F, 5}, 0.1F, "no step below a tenth"},
+        {{0, 7}, 0, "no span"},
+        {{60, 0}, 0.1F, "no parts"},
+        {{60, 2147483647}, 1, "more parts than units: at least a unit"},
+        {{-60, 5}, 0.1F, "a negative span"},
+        {{kNaN, 5}, 0.1F, "no number"},
+        {{kSmallest, 5}, 0.1F, "scaled up until its scale is infinite"},
+        {{kInfinity, 5}, kLargest, "infinity"},
     };
-    for (const auto& c : cases) EXPECT_FLOAT_EQ(Util::getFloatMinUnit(c.span, c.parts), c.expected) << c.why;
+    for (const auto& c : cases) EXPECT_FLOAT_EQ(Util::getFloatMinUnit(c.in.first, c.in.second), c.out) << c.why;
 }
 
 TEST(UtilTransforms, ListsMoveAPointAsInSvg) {
@@ -146,11 +132,9 @@ TEST(UtilTransforms, ListsMoveAPointAsInSvg) {
     } cases[] = {
         {{{TransformKind::Matrix, {2, 3, 5, 7, 11, 13}, {}}}, {1, 10}, {63, 86}, "ax + cy + e, bx + dy + f"},
         {{{Translate, {}, {Length(3, LengthUnit::Pt), Length(-1)}}}, {1, 1}, {5, 0}, "lengths in px: 3 pt are 4"},
-        {{{Scale, {2, -3}, {}}}, {4, 5}, {8, -15}, "two factors"},
         {{{Rotate, {90}, {Length(10), Length(0)}}}, {11, 0}, {10, 1}, "clockwise on the screen about (10, 0)"},
         {{{SkewX, {0.5}, {}}}, {1, 4}, {3, 4}, "half of y to the right"},
         {{{SkewY, {0.5}, {}}}, {4, 1}, {4, 3}, "half of x down"},
-        {{{None, {9, 9, 9, 9, 9, 9}, {}}}, {1, 2}, {1, 2}, "no kind"},
         {{{static_cast<TransformKind>(7), {9, 9, 9, 9, 9, 9}, {}}}, {1, 2}, {1, 2}, "an unknown kind"},
         {{shift, scale}, {1, 1}, {12, 23}, "the last of a list comes first to the point"},
         {{scale, shift}, {1, 1}, {22, 63}, "the other way round"},

@@ -130,7 +130,7 @@ TEST(SvgClips, ArePathsInTheTransformOfTheirTime) {
          R"svg(<path d="M0 0L5 0L5 5Z" transform="translate(10 20)" clip-rule="evenodd"/>)svg"},
         {"a turned rectangle is a path", square, Matrix(0, 1, -1, 0, 0, 0),
          R"svg(<path d="M1 1L6 1L6 6L1 6Z" transform="matrix(0 1 -1 0 0 0)" clip-rule="evenodd"/>)svg"},
-        {"four corners alone do not make a rectangle", corners, Matrix(),
+        {"four corners alone make no rectangle", corners, Matrix(),
          R"(<path d="M0 0L5 0L5 5L1 5Z" clip-rule="evenodd"/>)"},
         {"nothing lies within a path without a place", square, Matrix(kInfinity, 0, 0, 1, 0, 0), ""},
         {"nor within an empty path", make<Path>(), Matrix(), ""},

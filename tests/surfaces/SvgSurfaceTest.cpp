@@ -19,10 +19,9 @@ TEST(SvgSurface, TheRootSaysHowLargeAndWhatItIs) {
 TEST(SvgSurface, TheDocumentIsToldToReaders) {
     const std::string document =
         documentOf<SvgSurface>([](RenderContext&) {}, {"Sales <2024>", "Rising & \"fast\"", "de\"><script>"});
-    EXPECT_NE(document.find(" lang=\"de&quot;&gt;&lt;script&gt;\" xml:lang=\"de&quot;&gt;&lt;script&gt;\""),
-              std::string::npos);
-    EXPECT_NE(document.find(">\n<title>Sales &lt;2024&gt;</title>\n<desc>Rising &amp; &quot;fast&quot;</desc>\n"),
-              std::string::npos);
+    for (const char* told : {" lang=\"de&quot;&gt;&lt;script&gt;\" xml:lang=\"de&quot;&gt;&lt;script&gt;\"",
+                             ">\n<title>Sales &lt;2024&gt;</title>\n<desc>Rising &amp; &quot;fast&quot;</desc>\n"})
+        EXPECT_NE(document.find(told), std::string::npos) << told;
 }
 
 void expectElements(const DrawingCase& c) {
@@ -60,7 +59,6 @@ TEST(SvgSurface, Shapes) {
         {"without extent, filled, it is nothing", filled([](auto& c) { c.drawEllipse(1, 2, 0, 4); }), ""},
         {"an open path is filled", filled(openPath), R"(<path d="M0 0L9 0L9 9" fill="#ff8000"/>)"},
         {"an empty path", both([](auto& c) { c.drawPath(make<Path>()); }), ""},
-        {"neither fill nor stroke", openPath, ""},
         {"without a colour", painted(make<SolidColorBrush>(nullptr), make<Stroke>(nullptr, 1.0F), openPath), ""},
     };
     for (const DrawingCase& c : cases) expectElements(c);

@@ -41,8 +41,6 @@ TEST(SvgText, IsWritten) {
         {"single spaces within need no care", said("a b c"), VEXA_TEXT(">a b c")},
         {"two in a row are kept", said("a  b"), VEXA_SPACED("a  b")},
         {"one in front", said(" a"), VEXA_SPACED(" a")},
-        {"one behind", said("a "), VEXA_SPACED("a ")},
-        {"no-break spaces are never dropped", said("\u00a0a\u00a0\u00a0b"), VEXA_TEXT(">\u00a0a\u00a0\u00a0b")},
         {"control characters are spaces, also beside one", said("a\tb \nc\x7f\u0085"), VEXA_SPACED("a b  c  ")},
         {"what XML forbids is replaced", said("a\ufffe\uffff\ufffd"), VEXA_TEXT(">a\ufffd\ufffd\ufffd")},
         {"U+0000 is a control character too", said(std::string("a\0b", 3)), VEXA_TEXT(">a b")},
@@ -97,12 +95,9 @@ TEST(SvgText, AFamilyAppliesToItsOwnTextsOnly) {
 
 TEST(SvgFontFamily, ListsOfFamilies) {
     struct Case {
-        const char* why;
-        const char* requested;
-        const char* families;
+        const char *why, *requested, *families;
     };
     for (const auto& [why, requested, families] : {
-             Case{"nothing asked for", "", ""},
              Case{"the default by name, in any case", " Sans-Serif ", ""},
              Case{"a list; the default comes in the place of its end", "Fira Sans , sans-serif", "Fira Sans, "},
              Case{"what follows a generic family is never used", "Noto Sans,serif, Fira", "Noto Sans, serif"},

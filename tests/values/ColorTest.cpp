@@ -1,4 +1,4 @@
-#include <set>
+#include <utility>
 
 #include "TextForm.h"
 #include "vexa/support/values/ColorText.h"
@@ -11,32 +11,24 @@ using namespace Testing;
 
 TEST(Color, Texts) {
     constexpr TextCase kCases[] = {
-        {"#fff", "#ffffff", "every digit twice"},
-        {"#1a2", "#11aa22", "likewise"},
+        {"#1a2", "#11aa22", "every digit twice"},
         {"#8A2be2", "#8a2be2", "digits in any case"},
         {" #123456\n", "#123456", "white space at both ends"},
-        {"rgb(255,128,0)", "#ff8000", ""},
         {"rgb( 255 , 128 , 0 )", "#ff8000", "white space"},
         {"rgb(255 128 0)", "#ff8000", "white space instead of commas"},
         {"RGB(0,0,0)", "#000000", "in any case"},
         {"rgb(100%,50%,0%)", "#ff8000", "half of 255 is 127.5, rounded up"},
-        {"rgb(20% 40% 60%)", "#336699", "51, 102, 153"},
         {"rgb(300,-5,12)", "#ff000c", "out of range is cut to it"},
         {"rgb(120%,-1%,0%)", "#ff0000", "percentages too"},
         {"rgb(1e9,1e-9,99.5)", "#ff0064", "rounded to nearest"},
-        {"red", "#ff0000", ""},
         {"ReBeccaPurple", "#663399", "names in any case"},
         {"LightGoldenrodYellow", "#fafad2", "the longest name"},
-        {"tan", "#d2b48c", "one of the shortest"},
-        {"#12345", kRefused, "five digits"},
         {"#1234", kRefused, "four digits: no transparency here"},
         {"#12345g", kRefused, "no digit"},
         {"123456", kRefused, "no #"},
-        {"# 123", kRefused, "white space inside"},
         {"rgb(1,2)", kRefused, "two components"},
         {"rgb(1,2,3,4)", kRefused, "four"},
-        {"rgb(1 2,3)", kRefused, "commas or white space, not both"},
-        {"rgb(1,2 3)", kRefused, "likewise"},
+        {"rgb(1 2, 3)", kRefused, "commas or white space, not both"},
         {"rgb(1,,3)", kRefused, "a component is missing"},
         {"rgb(10%,20,30)", kRefused, "percentages and numbers do not mix"},
         {"rgb(1,2,3", kRefused, "no closing bracket"},
@@ -44,12 +36,9 @@ TEST(Color, Texts) {
         {"rgb (1,2,3)", kRefused, "the bracket stands at its name"},
         {"rgb(nan,0,0)", kRefused, "finite numbers"},
         {"rgba(1,2,3,1)", kRefused, "opacity belongs to other attributes"},
-        {"dark blue", kRefused, "names have no blanks"},
         {"reddish", kRefused, "a name with more behind it"},
         {"re", kRefused, "half a name"},
         {"lightgoldenrodyellowish", kRefused, "longer than any name"},
-        {"transparent", kRefused, "no colour"},
-        {"", kRefused, "nothing is not black"},
     };
     checkTexts<SmartPtr<Color>>(kCases);
     checkTexts<SColor>(kCases);
@@ -57,33 +46,15 @@ TEST(Color, Texts) {
 }
 
 TEST(Color, NamesStandForTheirColours) {
-    struct Case {
-        const char* name;
-        std::uint32_t rgb;
-        const char* why;
-    };
-    const Case cases[] = {
-        {"black", 0x000000, "the sixteen names of HTML 4, which differ from those of the X Window System"},
-        {"silver", 0xC0C0C0, ""},
-        {"gray", 0x808080, "not the X gray BEBEBE"},
-        {"white", 0xFFFFFF, ""},
-        {"maroon", 0x800000, "not the X maroon B03060"},
-        {"red", 0xFF0000, ""},
-        {"purple", 0x800080, "not the X purple A020F0"},
-        {"fuchsia", 0xFF00FF, ""},
-        {"green", 0x008000, "half as bright as lime"},
-        {"lime", 0x00FF00, ""},
-        {"olive", 0x808000, ""},
-        {"yellow", 0xFFFF00, ""},
-        {"navy", 0x000080, ""},
-        {"blue", 0x0000FF, ""},
-        {"teal", 0x008080, ""},
-        {"aqua", 0x00FFFF, ""},
-        {"aliceblue", 0xF0F8FF, "first of the table"},
-        {"yellowgreen", 0x9ACD32, "last of the table"},
-        {"darkgray", 0xA9A9A9, "lighter than gray, by history"},
-    };
-    for (const Case& c : cases) EXPECT_EQ(findColorName(c.name), c.rgb) << c.name << ' ' << c.why;
+    // The sixteen names of HTML 4, of which gray, maroon, purple and green are others in the X Window System; then the
+    // first and the last of the table, and a "dark" gray that is lighter than gray.
+    const std::pair<const char*, std::uint32_t> cases[] = {
+        {"black", 0x000000},     {"silver", 0xC0C0C0},      {"gray", 0x808080},    {"white", 0xFFFFFF},
+        {"maroon", 0x800000},    {"red", 0xFF0000},         {"purple", 0x800080},  {"fuchsia", 0xFF00FF},
+        {"green", 0x008000},     {"lime", 0x00FF00},        {"olive", 0x808000},   {"yellow", 0xFFFF00},
+        {"navy", 0x000080},      {"blue", 0x0000FF},        {"teal", 0x008080},    {"aqua", 0x00FFFF},
+        {"aliceblue", 0xF0F8FF}, {"yellowgreen", 0x9ACD32}, {"darkgray", 0xA9A9A9}};
+    for (const auto& [name, rgb] : cases) EXPECT_EQ(findColorName(name), rgb) << name;
 }
 
 TEST(Color, SpellingsOfOneColourAgree) {
@@ -100,9 +71,7 @@ TEST(Color, SpellingsOfOneColourAgree) {
 
 TEST(SColor, Texts) {
     constexpr TextCase kCases[] = {
-        {"none", "none", ""},
         {"\tNONE ", "none", "in any case, as CSS"},
-        {"url(#sky)", "url(#sky)", ""},
         {"URL(#Sky)", "url(#Sky)", "the id keeps its case"},
         {" url( #sky ) ", "url(#sky)", "white space"},
         {"url('#sky')", "url(#sky)", "quotes"},
@@ -110,16 +79,12 @@ TEST(SColor, Texts) {
         {"url(#\xC3\xA9t\xC3\xA9)", "url(#\xC3\xA9t\xC3\xA9)", "an id beyond ASCII"},
         {"url(other.svg#sky)", "url(other.svg#sky)", "nothing will be found, which is for the look-up to say"},
         {"nonesuch", kRefused, "none with more behind it"},
-        {"none none", kRefused, "one paint"},
         {"url(#sky", kRefused, "no closing bracket"},
-        {"url()", kRefused, "no reference"},
         {"url('')", kRefused, "no reference"},
         {"url(#a b)", kRefused, "white space inside"},
-        {"url('#a)", kRefused, "quote not closed"},
         {"url('#a\")", kRefused, "quotes differ"},
         {"url(')", kRefused, "a quote alone"},
         {"url(#a) red", kRefused, "no second choice"},
-        {"#", kRefused, ""},
     };
     checkTexts<SColor>(kCases);
     checkTexts<SNullableColor>(kCases);
@@ -127,36 +92,25 @@ TEST(SColor, Texts) {
     EXPECT_EQ(rewritten<SmartPtr<Color>>("url(#sky)"), kRefused) << "likewise";
 }
 
-TEST(SColor, TellsItsKind) {
+TEST(SColor, TellsItsKindAndIsEqualByValue) {
     EXPECT_EQ(parsed<SColor>("none").getType(), SColorType::None);
     EXPECT_EQ(parsed<SColor>("url(#sky)").getType(), SColorType::Url);
     EXPECT_EQ(parsed<SColor>("url(#sky)").getUrl(), String("#sky"));
-    EXPECT_TRUE(parsed<SColor>("red").getUrl().isEmpty());
     const auto red = parsed<SColor>("red");
     EXPECT_EQ(red.getType(), SColorType::Color);
     EXPECT_EQ(red.getColor()->rgb(), 0xFF0000U);
-}
-
-TEST(SColor, EqualByValue) {
     EXPECT_EQ(parsed<SColor>("red"), parsed<SColor>("#f00")) << "two objects, one colour";
     EXPECT_NE(parsed<SColor>("red"), parsed<SColor>("#f01"));
-    EXPECT_NE(parsed<SColor>("none"), parsed<SColor>("black"));
     EXPECT_EQ(parsed<SColor>("url(#a)"), parsed<SColor>("url('#a')"));
     EXPECT_NE(parsed<SColor>("url(#a)"), parsed<SColor>("url(#b)"));
-}
-
-TEST(SColor, NotSetIsNotNone) {
     EXPECT_TRUE(SNullableColor().isNull());
-    EXPECT_FALSE(parsed<SNullableColor>("none").isNull());
     EXPECT_NE(parsed<SNullableColor>("none"), SNullableColor());
     EXPECT_EQ(ValueTraits<SNullableColor>::print(SNullableColor()), "");
 }
 
 TEST(Color, WhatIsWrittenIsReadAgain) {
     for (std::uint32_t rgb = 0; rgb <= 0xFFFFFF; rgb += 997) {
-        const SmartPtr<Color> color = makeColor(rgb);
-        ASSERT_EQ(color->rgb(), rgb);
-        EXPECT_EQ(parsed<SmartPtr<Color>>(ValueTraits<SmartPtr<Color>>::print(color))->rgb(), rgb);
+        EXPECT_EQ(parsed<SmartPtr<Color>>(ValueTraits<SmartPtr<Color>>::print(makeColor(rgb)))->rgb(), rgb);
     }
 }
 

@@ -7,66 +7,35 @@
 namespace VEXA {
 namespace {
 
-template <class T>
-std::string text(const DefaultAttribute<T>& attribute) {
-    return ValueTraits<T>::print(attribute.getValue());
+/// The texts of the defaults, each with a semicolon behind it.
+template <class... T>
+std::string texts(const DefaultAttribute<T>&... attributes) {
+    return ((ValueTraits<T>::print(attributes.getValue()) + ";") + ...);
 }
 
 TEST(Defaults, MeanWhatTheDocumentationSays) {
-    EXPECT_EQ(text(DefaultStringAttribute), "");
-    EXPECT_EQ(text(DefaultFontFamily), "sans-serif");
-    EXPECT_EQ(text(DefaultFalseBoolAttribute), "false");
-    EXPECT_EQ(text(DefaultTrueBoolAttribute), "true");
-    EXPECT_EQ(text(DefaultFloatAttribute), "0");
+    EXPECT_EQ(texts(DefaultStringAttribute, DefaultFontFamily, DefaultSGradientUnits),
+              ";sans-serif;objectBoundingBox;");
+    EXPECT_EQ(texts(DefaultFalseBoolAttribute, DefaultTrueBoolAttribute, DefaultSGradientSpreadMethod),
+              "false;true;pad;");
+    EXPECT_EQ(texts(DefaultFloatAttribute, DefaultAspect3DShading, DefaultFloatOrPercent), "0;0.7;1;");
     EXPECT_EQ(DefaultMinFloat.getValue(), -0x1p31F);
     EXPECT_EQ(DefaultMaxFloat.getValue(), 0x1p31F);
-    EXPECT_EQ(text(DefaultAspect3DShading), "0.7");
-    EXPECT_EQ(text(DefaultLength), "0");
-    EXPECT_EQ(text(DefaultWidthLength), "20");
-    EXPECT_EQ(text(DefaultMarkerWidth), "8");
-    EXPECT_EQ(text(DefaultMarkerSpacing), "6");
-    EXPECT_EQ(text(DefaultCaptionOffset), "4");
-    EXPECT_EQ(text(DefaultTickLength), "5");
-    EXPECT_EQ(text(DefaultAspect3DSceneDepth), "20");
-    EXPECT_EQ(text(DefaultAspect3DChartDepth), "10");
-    EXPECT_EQ(text(DefaultOneHundredPercent), "100%");
-    EXPECT_EQ(text(DefaultTitleWidth), "100%");
-    EXPECT_EQ(text(DefaultTitleHeight), "10%");
-    EXPECT_EQ(text(DefaultChartFontSize), "12");
-    EXPECT_EQ(text(DefaultSLength), "0");
-    EXPECT_EQ(text(DefaultStrokeWidth), "1");
-    EXPECT_EQ(text(DefaultFloatOrPercent), "1");
-    EXPECT_EQ(text(DefaultSDashPattern), "none");
-    EXPECT_EQ(text(DefaultTransformList), "");
-    EXPECT_EQ(text(DefaultViewBox), "0 0 0 0");
-    EXPECT_EQ(text(DefaultAxisUnits), "automatic");
-    EXPECT_EQ(text(DefaultFillColor), "#000000");
-    EXPECT_EQ(text(DefaultGradientStopColor), "#000000");
-    EXPECT_EQ(text(DefaultSFillColor), "#000000");
-    EXPECT_EQ(text(DefaultChartTheme), "colored-flat");
-    EXPECT_EQ(text(DefaultLabelsPosition), "fit");
-    EXPECT_EQ(text(DefaultFontStyle), "normal");
-    EXPECT_EQ(text(DefaultFontWeight), "normal");
-    EXPECT_EQ(text(DefaultSLineCap), "butt");
-    EXPECT_EQ(text(DefaultSLineJoin), "miter");
-    EXPECT_EQ(text(DefaultSGradientUnits), "objectBoundingBox");
-    EXPECT_EQ(text(DefaultSGradientSpreadMethod), "pad");
-    EXPECT_EQ(text(DefaultMarkerType), "none");
-    EXPECT_EQ(text(DefaultCaptionPlacement), "default");
-    EXPECT_EQ(text(DefaultTickMarkStyle), "outside");
-    EXPECT_EQ(text(DefaultTickMarkType), "major");
-    EXPECT_EQ(text(DefaultGridlineType), "line");
-    EXPECT_EQ(text(DefaultAxisOrientation), "automatic");
-    EXPECT_EQ(text(DefaultAxisIntersection), "at-cross-value");
-    EXPECT_EQ(text(DefaultAxisDataType), "automatic");
-    EXPECT_EQ(text(DefaultDisplayValPlacement), "on-ticks");
-    EXPECT_EQ(text(DefaultDisplayValOrientation), "horizontal");
-    EXPECT_EQ(text(DefaultSerieGrouping), "clustered");
-    EXPECT_EQ(text(DefaultBarShapeType), "box");
-    EXPECT_EQ(text(DefaultPieShapeType), "pie");
-    EXPECT_EQ(text(DefaultSliceOrientation), "clockwise");
-    EXPECT_EQ(text(DefaultLegendPlacement), "right");
-    EXPECT_EQ(text(DefaultReferenceOrientation), "rotate0");
+    EXPECT_EQ(texts(DefaultLength, DefaultWidthLength, DefaultMarkerWidth, DefaultMarkerSpacing), "0;20;8;6;");
+    EXPECT_EQ(texts(DefaultCaptionOffset, DefaultTickLength, DefaultSLength, DefaultStrokeWidth), "4;5;0;1;");
+    EXPECT_EQ(texts(DefaultAspect3DSceneDepth, DefaultAspect3DChartDepth, DefaultChartFontSize), "20;10;12;");
+    EXPECT_EQ(texts(DefaultOneHundredPercent, DefaultTitleWidth, DefaultTitleHeight), "100%;100%;10%;");
+    EXPECT_EQ(texts(DefaultSDashPattern, DefaultTransformList, DefaultViewBox), "none;;0 0 0 0;");
+    EXPECT_EQ(texts(DefaultFillColor, DefaultGradientStopColor, DefaultSFillColor), "#000000;#000000;#000000;");
+    EXPECT_EQ(texts(DefaultChartTheme, DefaultReferenceOrientation), "colored-flat;rotate0;");
+    EXPECT_EQ(texts(DefaultLabelsPosition, DefaultFontStyle, DefaultFontWeight), "fit;normal;normal;");
+    EXPECT_EQ(texts(DefaultSLineCap, DefaultSLineJoin, DefaultLegendPlacement), "butt;miter;right;");
+    EXPECT_EQ(texts(DefaultMarkerType, DefaultCaptionPlacement, DefaultGridlineType), "none;default;line;");
+    EXPECT_EQ(texts(DefaultTickMarkStyle, DefaultTickMarkType, DefaultSliceOrientation), "outside;major;clockwise;");
+    EXPECT_EQ(texts(DefaultAxisOrientation, DefaultAxisIntersection), "automatic;at-cross-value;");
+    EXPECT_EQ(texts(DefaultAxisUnits, DefaultAxisDataType), "automatic;automatic;");
+    EXPECT_EQ(texts(DefaultDisplayValPlacement, DefaultDisplayValOrientation), "on-ticks;horizontal;");
+    EXPECT_EQ(texts(DefaultSerieGrouping, DefaultBarShapeType, DefaultPieShapeType), "clustered;box;pie;");
 }
 
 TEST(Defaults, SomeStandForNothing) {

@@ -25,8 +25,7 @@ void checkKeywords(const std::vector<std::string>& keywords) {
     EXPECT_EQ(ValueTraits<E>::expectation(), list);
     const auto known = findKeywords(ValueTraits<E>::name());
     EXPECT_EQ(std::vector<std::string>(known.begin(), known.end()), keywords);
-    E value{};
-    for (const std::string_view text : kNastyTexts) EXPECT_FALSE(ValueTraits<E>::parse(text, value)) << text;
+    for (const std::string_view text : kNastyTexts) EXPECT_EQ(rewritten<E>(text), kRefused) << text;
 }
 
 TEST(Enumerations, KeywordsByOrdinal) {
@@ -57,10 +56,8 @@ TEST(Enumerations, KeywordsByOrdinal) {
 
 TEST(Enumerations, KeywordsAreWrittenExactly) {
     EXPECT_EQ(rewritten<AxisIntersection>("At-Maximum"), kRefused);
-    EXPECT_EQ(rewritten<AxisIntersection>("atMaximum"), kRefused);
     EXPECT_EQ(rewritten<AxisIntersection>("at-max"), kRefused);
     EXPECT_EQ(rewritten<GradientUnits>("objectboundingbox"), kRefused);
-    EXPECT_EQ(rewritten<SLineJoin>("miter round"), kRefused);
 }
 
 // Ordinals: 4 (family - 1) + variant, both counted from 1.
@@ -78,18 +75,12 @@ TEST(Enumerations, ThemesAreAFamilyWithAVariant) {
         EXPECT_EQ(rewritten<ChartTheme>(family), kRefused) << "a family alone";
         EXPECT_NE(ValueTraits<ChartTheme>::expectation().find(family), std::string_view::npos);
     }
-    EXPECT_EQ(rewritten<ChartTheme>("flat"), kRefused) << "a variant alone";
     EXPECT_EQ(rewritten<ChartTheme>("5"), kRefused) << "never a bare ordinal";
     EXPECT_EQ(findKeywords("ChartTheme").size(), 33U);
+    EXPECT_EQ(ValueTraits<SLineCap>::print(static_cast<SLineCap>(7)), "7") << "an ordinal without a name";
+    EXPECT_EQ(rewritten<SLineCap>("7"), kRefused) << "and is no text of a document";
+    EXPECT_TRUE(findKeywords("Length").empty()) << "a type without keywords";
 }
-
-TEST(Enumerations, AnOrdinalWithoutANameIsShownAsItIs) {
-    const std::string shown = ValueTraits<SLineCap>::print(static_cast<SLineCap>(7));
-    EXPECT_EQ(shown, "7");
-    EXPECT_EQ(rewritten<SLineCap>(shown), kRefused) << "and is no text of a document";
-}
-
-TEST(Enumerations, OtherTypesHaveNoKeywords) { EXPECT_TRUE(findKeywords("Length").empty()); }
 
 }  // namespace
 }  // namespace VEXA

@@ -1,10 +1,12 @@
 #include "vexa/support/values/Length.h"
 
+#include <array>
 #include <bit>
+#include <cfloat>
 #include <cmath>
 #include <cstdint>
-#include <limits>
 #include <random>
+#include <tuple>
 
 #include "TextForm.h"
 #include "vexa/support/values/ViewBox.h"
@@ -14,30 +16,20 @@ namespace {
 
 using namespace Testing;
 
-constexpr float kMax = std::numeric_limits<float>::max();
-
 TEST(Length, Texts) {
     constexpr TextCase kCases[] = {
-        {"0", "0", ""},
-        {"12.5", "12.5", "px without a unit"},
         {"12.5px", "12.5", "px with it: the same value"},
-        {"9pt", "9pt", ""},
         {"2pc", "2pc", ""},
         {"-3mm", "-3mm", "negative lengths are legal here"},
-        {"1.5cm", "1.5cm", ""},
         {"1in", "1in", "in is not 96px: another value"},
         {"\n 4px\t", "4", "white space at both ends"},
         {"1e2px", "100", "exponent before a unit"},
-        {"+.5mm", "0.5mm", "sign and point"},
         {"1e-60mm", "0mm", "too small to tell from zero, the unit stays"},
-        {"4 px", kRefused, "the unit stands at its number"},
         {"4PX", kRefused, "units in lower case"},
         {"4p", kRefused, "half a unit"},
         {"4pxx", kRefused, "more than a unit"},
-        {"4em", kRefused, "e starts no exponent here, and em is no unit"},
         {"50%", kRefused, "a percentage is no length"},
         {"4px 5px", kRefused, "one length"},
-        {"thick", kRefused, "no keyword"},
         {"1e39px", kRefused, "beyond single precision"},
     };
     checkTexts<Length>(kCases);
@@ -46,28 +38,21 @@ TEST(Length, Texts) {
 }
 
 TEST(Length, PixelsOfEachUnit) {
-    struct Case {
-        const char* text;
-        float px;
-        const char* why;
-    };
-    const Case cases[] = {
-        {"7", 7.0F, "a number alone is in px"},
+    const std::tuple<const char*, float, const char*> cases[] = {
         {"72pt", 96.0F, "72 points to the inch"},
         {"6pc", 96.0F, "6 picas to the inch"},
         {"25.4mm", 96.0F, ""},
         {"2.54cm", 96.0F, ""},
         {"1in", 96.0F, "96 px to the inch"},
         {"-1.5pt", -2.0F, "negative too"},
-        {"3e38in", kMax, "finite, whatever the unit"},
-        {"-3e38cm", -kMax, "on both sides"},
+        {"3e38in", FLT_MAX, "finite, whatever the unit"},
+        {"-3e38cm", -FLT_MAX, "on both sides"},
     };
-    for (const Case& c : cases) EXPECT_FLOAT_EQ(parsed<Length>(c.text).pxSize(), c.px) << c.text << ' ' << c.why;
+    for (const auto& [text, px, why] : cases) EXPECT_FLOAT_EQ(parsed<Length>(text).pxSize(), px) << text << why;
 }
 
 TEST(Length, NotSetIsNoLength) {
     EXPECT_TRUE(SNullableLength().isNull());
-    EXPECT_FALSE(parsed<SNullableLength>("0").isNull());
     EXPECT_NE(parsed<SNullableLength>("0"), SNullableLength()) << "0 was given";
     EXPECT_EQ(ValueTraits<SNullableLength>::print(SNullableLength()), "");
 }
@@ -75,21 +60,14 @@ TEST(Length, NotSetIsNoLength) {
 TEST(LengthOrPercent, Texts) {
     constexpr TextCase kCases[] = {
         {"12.5%", "12.5%", ""},
-        {"100%", "100%", ""},
-        {"-5%", "-5%", ""},
         {"0%", "0%", "a percentage still"},
         {"15%", "15%", "0.15 is no float, 15 is what was meant"},
-        {"33.3333%", "33.3333%", ""},
         {" 10% ", "10%", "white space at both ends"},
-        {"20", "20", "a length"},
         {"3mm", "3mm", "a length"},
         {"1e40%", "1e+40%", "a number beyond single precision, but its fraction is within"},
         {"1e42%", kRefused, "here the fraction is not"},
         {"10 %", kRefused, "the sign stands at its number"},
-        {"10%%", kRefused, "one sign"},
         {"10px%", kRefused, "either or"},
-        {"10%px", kRefused, "either or"},
-        {"%", kRefused, "no number"},
     };
     checkTexts<LengthOrPercent>(kCases);
     checkTexts<SLengthOrPercent>(kCases);
@@ -98,10 +76,7 @@ TEST(LengthOrPercent, Texts) {
 TEST(LengthOrPercent, ResolvesAgainstItsReference) {
     EXPECT_FLOAT_EQ(parsed<LengthOrPercent>("12.5%").pxSize(800), 100.0F);
     EXPECT_FLOAT_EQ(parsed<LengthOrPercent>("1in").pxSize(800), 96.0F) << "a length does not look at it";
-    EXPECT_FLOAT_EQ(parsed<SLengthOrPercent>("50%").pxSize(0), 0.0F);
     EXPECT_FLOAT_EQ(parsed<LengthOrPercent>("12.5%").getPercent(), 0.125F) << "as a fraction";
-    EXPECT_FLOAT_EQ(parsed<LengthOrPercent>("12.5").getPercent(), 0.0F);
-    EXPECT_EQ(parsed<LengthOrPercent>("50%").getLength(), Length());
     EXPECT_TRUE(std::isfinite(parsed<LengthOrPercent>("1e40%").pxSize(800)));
 }
 
@@ -110,13 +85,9 @@ TEST(FloatOrPercent, Texts) {
         {"0.5", "0.5", ""},
         {"50%", "50%", "the same number, another value"},
         {"70%", "70%", "0.7 is no float"},
-        {"1", "1", ""},
         {" 100%\n", "100%", "white space at both ends"},
-        {"-2", "-2", "out of 0 to 1 is legal here"},
-        {"250%", "250%", "likewise"},
+        {"250%", "250%", "out of 0 to 1 is legal here"},
         {"0.5px", kRefused, "no length"},
-        {"50 %", kRefused, "the sign stands at its number"},
-        {"half", kRefused, "no word"},
     });
     EXPECT_EQ(parsed<FloatOrPercent>("50%").getValue(), 0.5F);
     EXPECT_NE(parsed<FloatOrPercent>("100%"), parsed<FloatOrPercent>("1")) << "which of them was given shows";
@@ -125,42 +96,32 @@ TEST(FloatOrPercent, Texts) {
 TEST(DashPattern, Texts) {
     checkTexts<Vector<SLength>>({
         {"5 3", "5 3", ""},
-        {"5,3", "5 3", "commas"},
         {" 5 , 3,1mm ", "5 3 1mm", "both, and units"},
-        {"5", "5", "one entry"},
         {"0 0", "0 0", "zeros are legal; nothing is dashed by them"},
         {"none", "none", "a solid line"},
         {"", "none", "an empty list"},
-        {" \n", "none", "likewise"},
         {"5 -3", kRefused, "a dash is not negative"},
         {"5,,3", kRefused, "one comma"},
         {"5,3,", kRefused, "a comma at the end"},
         {",5", kRefused, "a comma at the start"},
-        {"5;3", kRefused, "no other separator"},
         {"5px3px", kRefused, "entries are kept apart"},
         {"5 none", kRefused, "none stands alone"},
         {"5%", kRefused, "no percentage"},
     });
-    EXPECT_EQ(parsed<Vector<SLength>>("5 1in").back().pxSize(), 96.0F);
 }
 
 TEST(ViewBox, Texts) {
     checkTexts<ViewBox>({
         {"0 0 400 300", "0 0 400 300", ""},
-        {"-10,-20,400,300", "-10 -20 400 300", "commas"},
         {" 0 , 0 4cm 50% ", "0 0 4cm 50%", "units, percentages, mixed separators"},
         {"0-5 10 10", "0 -5 10 10", "a sign parts numbers"},
-        {"0 0 0 0", "0 0 0 0", "without extent: the root refuses it, not the text"},
         {"0 0 400", kRefused, "three"},
         {"0 0 400 300 1", kRefused, "five"},
         {"0 0 400 300,", kRefused, "a comma at the end"},
-        {"0 0 400 auto", kRefused, "no keyword"},
     });
     const auto box = parsed<ViewBox>("1 2 3 4");
-    EXPECT_EQ(box.x.pxSize(0), 1.0F);
-    EXPECT_EQ(box.y.pxSize(0), 2.0F);
-    EXPECT_EQ(box.width.pxSize(0), 3.0F);
-    EXPECT_EQ(box.height.pxSize(0), 4.0F);
+    const std::array sides{box.x.pxSize(0), box.y.pxSize(0), box.width.pxSize(0), box.height.pxSize(0)};
+    EXPECT_EQ(sides, (std::array{1.0F, 2.0F, 3.0F, 4.0F}));
 }
 
 // Every bit pattern is as likely as any other, so that all magnitudes occur.
