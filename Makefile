@@ -15,7 +15,9 @@ help:
 demo: $(BUILD)/build.ninja
 	cmake --build --preset release --target vexa_cli
 	$(VEXA) render examples/*.xml --out-dir out --to svg
+	$(VEXA) render examples/*.xml --out-dir out --to png --scale 2
 	$(VEXA) render examples/*.xml --out-dir out --to json
+	$(VEXA) render examples/*.xml -o out/examples.pdf
 	@echo "The pictures are in out/"
 
 test: $(BUILD)/build.ninja

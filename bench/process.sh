@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Times a whole `vexa render` process to SVG beside a C program that writes the same text: the floor of any such program.
+# Times a whole `vexa render` process: to SVG beside a C program that writes the same text, the floor of any such program;
+# to PDF and PNG, where they are built in, beside the one to SVG.
 # usage: bench/process.sh BUILD_DIR [RUNS]
 set -euo pipefail
 build=${1:?usage: bench/process.sh BUILD_DIR [RUNS]}
@@ -43,11 +44,23 @@ int main(int argc, char** argv) {
 C
 cc -O2 -o "$work/timer" "$work/timer.c"
 
-# Both in turn, so that the machine's moods hit both; the median of nine batches.
-for _ in 1 2 3 4 5 6 7 8 9; do
-    "$work/timer" "$runs" "$work/floor" "$work/out.svg" >>"$work/floor.ms"
-    "$work/timer" "$runs" "$vexa" render "$chart" -o "$work/out.svg" >>"$work/vexa.ms"
+formats=svg
+for format in pdf png; do
+    if "$vexa" render "$chart" -o "$work/out.$format" 2>/dev/null; then formats+=" $format"; fi
 done
-median() { sort -n "$1" | sed -n 5p; }
-awk -v f="$(median "$work/floor.ms")" -v v="$(median "$work/vexa.ms")" \
-    'BEGIN { printf "C program that writes the text: %.2f ms   vexa render: %.2f ms   ratio %.2f\n", f, v, v / f }'
+
+# All in turn, so that the machine's moods hit all; the median of nine batches.
+for _ in 1 2 3 4 5 6 7 8 9; do
+    "$work/timer" "$runs" "$work/floor" "$work/out.txt" >>"$work/floor.ms"
+    for format in $formats; do
+        "$work/timer" "$runs" "$vexa" render "$chart" -o "$work/out.$format" >>"$work/$format.ms"
+    done
+done
+median() { sort -n "$work/$1.ms" | sed -n 5p; }
+compare() { # what beside what
+    awk -v name="$1" -v a="$(median "$1")" -v other="$2" -v b="$(median "$2")" \
+        'BEGIN { printf "%-6s %6.2f ms   %5.2f times %s\n", name, a, a / b, other }'
+}
+printf 'floor  %6.2f ms   a C program that writes the text\n' "$(median floor)"
+compare svg floor
+for format in ${formats#svg}; do compare "$format" svg; done

@@ -1,18 +1,18 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 #include "cli/ExitStatus.h"
+#include "cli/FontsOptions.h"
 #include "cli/RenderOptions.h"
 
 namespace VEXA::Cli {
 
-/// What was typed: a command to carry out, or a text to show and a status to end with.
+/// What was typed: a command to carry out, or else the answer to a wish for help or to a mistake.
 struct CommandLine {
     std::optional<RenderOptions> render;
-    std::string text;           ///< help, version, or what is wrong
-    ExitStatus status = kDone;  ///< of a text: kDone for what was asked for, kWrongUsage for what is wrong
+    std::optional<FontsOptions> fonts;
+    Answer answer;
 };
 
 /// Reads the arguments of the program, its own name first. Never throws for what a user types.

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <functional>
 
-#include "cli/DocumentRenderer.h"
+#include "cli/DocumentPainter.h"
 
 namespace VEXA::Cli {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "cli/FormatTable.h"
 #include "vexa/surfaces/DisplayListSurface.h"
 #include "vexa/surfaces/SvgSurface.h"
 
@@ -10,23 +11,23 @@ namespace VEXA::Cli {
 namespace {
 
 template <class Surface>
-SmartPtr<RenderContext> makeSurfaceOf(SmartPtr<IO::Stream> stream) {
+SmartPtr<RenderContext> makeSurfaceOf(SmartPtr<IO::Stream> stream, const PictureOptions&) {
     return make<Surface>(std::move(stream));
 }
 
-struct FormatRow {
-    OutputFormat format;
-    std::string_view name;
-    SmartPtr<RenderContext> (*make)(SmartPtr<IO::Stream>);
-};
-
-constexpr std::array kFormats = {
-    FormatRow{OutputFormat::Svg, "svg", &makeSurfaceOf<SvgSurface>},
-    FormatRow{OutputFormat::Json, "json", &makeSurfaceOf<DisplayListSurface>},
-};
+const auto& formats() {
+    static const std::array rows = {
+        FormatRow{OutputFormat::Svg, "svg", false, &makeSurfaceOf<SvgSurface>, nullptr},
+        FormatRow{OutputFormat::Json, "json", false, &makeSurfaceOf<DisplayListSurface>, nullptr},
+        pngFormat(),
+        pdfFormat(),
+    };
+    return rows;
+}
 
 const FormatRow& rowOf(OutputFormat format) {
-    return *std::find_if(kFormats.begin(), kFormats.end(), [&](const FormatRow& row) { return row.format == format; });
+    return *std::find_if(formats().begin(), formats().end(),
+                         [&](const FormatRow& row) { return row.format == format; });
 }
 
 char lowerCase(char letter) {
@@ -41,25 +42,34 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
 }  // namespace
 
 std::optional<OutputFormat> formatNamed(std::string_view name) {
-    for (const FormatRow& row : kFormats) {
+    for (const FormatRow& row : formats()) {
         if (equalIgnoringCase(row.name, name)) return row.format;
     }
     return std::nullopt;
 }
 
+bool isBuiltIn(OutputFormat format) { return rowOf(format).make != nullptr; }
+
 std::string_view extensionOf(OutputFormat format) { return rowOf(format).name; }
 
 std::string formatNames() {
     std::string names;
-    for (const FormatRow& row : kFormats) {
+    for (const FormatRow& row : formats()) {
+        if (row.make == nullptr) continue;
         if (!names.empty()) names += ", ";
         names += row.name;
     }
     return names;
 }
 
-SmartPtr<RenderContext> makeSurface(OutputFormat format, SmartPtr<IO::Stream> stream) {
-    return rowOf(format).make(std::move(stream));
+SmartPtr<RenderContext> makeSurface(OutputFormat format, SmartPtr<IO::Stream> stream, const PictureOptions& options) {
+    return rowOf(format).make(std::move(stream), options);
+}
+
+bool joinsDocuments(OutputFormat format) { return rowOf(format).joinsDocuments; }
+
+JoinedPages joinPages(OutputFormat format, SmartPtr<IO::Stream> stream, const PictureOptions& options) {
+    return rowOf(format).join(std::move(stream), options);
 }
 
 }  // namespace VEXA::Cli

@@ -48,8 +48,8 @@ std::string overwriteProblem(const std::vector<RenderJob>& jobs) {
 
 }  // namespace
 
-std::string outputProblem(const std::vector<RenderJob>& jobs) {
-    std::string problem = sameOutputProblem(jobs);
+std::string outputProblem(const std::vector<RenderJob>& jobs, bool isJoined) {
+    std::string problem = isJoined ? std::string() : sameOutputProblem(jobs);
     return problem.empty() ? overwriteProblem(jobs) : problem;
 }
 

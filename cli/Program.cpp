@@ -5,19 +5,21 @@
 
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
+#include "cli/FontsCommand.h"
+#include "cli/Messages.h"
 #include "cli/RenderCommand.h"
 
 namespace VEXA::Cli {
 namespace {
 
 /// What was asked for goes to standard output, what is wrong to standard error.
-ExitStatus showText(const CommandLine& line, Console& console) {
-    if (line.status == kDone) {
-        IO::FileStream::standardOutput()->write(line.text.data(), line.text.size());
+ExitStatus show(const Answer& answer, Console& console) {
+    if (answer.status == kDone) {
+        IO::FileStream::standardOutput()->write(answer.text.data(), answer.text.size());
     } else {
-        console.write(line.text);
+        console.write(answer.text);
     }
-    return line.status;
+    return answer.status;
 }
 
 }  // namespace
@@ -26,9 +28,10 @@ int runProgram(int count, const char* const* arguments, const Painter& paint) {
     StandardError console;
     try {
         const CommandLine line = parseCommandLine(count, arguments);
-        return line.render ? render(*line.render, paint, console) : showText(line, console);
-    } catch (const std::exception& error) {  // output that cannot be written, memory that ends
-        console.write(std::string("vexa: error: ") + error.what() + "\n");
+        if (line.render) return render(*line.render, paint, console);
+        return show(line.fonts ? listFonts(*line.fonts) : line.answer, console);
+    } catch (const std::exception& error) {  // fonts that are not there, output that cannot be written, no memory
+        console.write("vexa: error: " + printable(error.what()) + "\n");
         return kFailed;
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/DocumentRenderer.h"
+#include "cli/DocumentPainter.h"
 
 namespace VEXA::Cli {
 

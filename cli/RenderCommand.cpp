@@ -4,7 +4,10 @@
 #include <system_error>
 #include <thread>
 
+#include "cli/CallersFonts.h"
+#include "cli/DocumentRenderer.h"
 #include "cli/JobRunner.h"
+#include "cli/JoinedRenderer.h"
 #include "cli/Messages.h"
 #include "cli/Progress.h"
 #include "cli/RenderPlan.h"
@@ -21,39 +24,72 @@ std::string makeDirectory(const std::string& directory) {
     return messageLine(directory, {}, Severity::Error, "the directory cannot be made: " + error.message());
 }
 
-unsigned threadsFor(const RenderOptions& options) {
-    if (options.inputs.size() == 1) return 1;  // counting the cores reads a file
+unsigned threadsFor(const RenderPlan& plan, const RenderOptions& options) {
+    if (plan.isJoined || plan.jobs.size() == 1) return 1;  // counting the cores reads a file
     return options.jobs > 0 ? options.jobs : std::thread::hardware_concurrency();
 }
 
-/// Draws all and tells how it went; the number of documents that failed.
-std::size_t runPlan(const RenderPlan& plan, unsigned threads, const Painter& paint, Console& console) {
-    Progress progress(console, plan.jobs.size());
-    std::size_t failed = 0;
-    const auto report = [&](std::size_t, const RenderResult& result) {
-        if (result.failed) ++failed;
+/// Tells how the jobs of a plan go.
+class Report {
+public:
+    Report(std::size_t total, Console& console) : console_(console), progress_(console, total) {}
+
+    void add(const RenderResult& result) {
+        if (result.failed) ++failed_;
         if (result.messages.empty()) return;
-        progress.clear();
-        console.write(result.messages);
+        progress_.clear();
+        console_.write(result.messages);
+    }
+    void showProgress(std::size_t done) { progress_.show(done, failed_); }
+    ExitStatus status() const noexcept { return failed_ == 0 ? kDone : kFailed; }
+
+private:
+    Console& console_;
+    Progress progress_;
+    std::size_t failed_ = 0;
+};
+
+/// Draws all and tells how it went.
+ExitStatus runPlan(const RenderPlan& plan, unsigned threads, const Painter& paint, Console& console) {
+    Report report(plan.jobs.size(), console);
+    JoinedRenderer joined(plan, paint);
+    const auto draw = [&](std::size_t index) {
+        return plan.isJoined ? joined.drawNext() : renderDocument(plan.jobs[index], paint);
     };
-    runJobs(plan.jobs.size(), threads, [&](std::size_t index) { return renderDocument(plan.jobs[index], paint); },
-            {report, [&](std::size_t done) { progress.show(done, failed); }});
-    return failed;
+    runJobs(plan.jobs.size(), threads, draw,
+            {[&](std::size_t, const RenderResult& result) { report.add(result); },
+             [&](std::size_t done) { report.showProgress(done); }});
+    if (plan.isJoined) report.add(joined.writeFile());
+    return report.status();
+}
+
+/// A library that the format needs and that is missing is told once, not for each document.
+void loadLibraries(const RenderJob& job) {
+    static_cast<void>(makeSurface(job.format, make<IO::MemoryStream>(), job.picture));
+}
+
+ExitStatus refuse(const std::string& problem, Console& console) {
+    console.write("vexa render: " + printable(problem) + "\nvexa render --help tells how.\n");
+    return kWrongUsage;
 }
 
 }  // namespace
 
 ExitStatus render(const RenderOptions& options, const Painter& paint, Console& console) {
     const RenderPlan plan = planRender(options);
-    if (!plan.problem.empty()) {
-        console.write("vexa render: " + printable(plan.problem) + "\nvexa render --help tells how.\n");
-        return kWrongUsage;
+    if (!plan.problem.empty()) return refuse(plan.problem, console);
+    std::shared_ptr<FontService> fonts;
+    if (!options.fontDirectories.empty()) {
+        fonts = callersFonts(options.fontDirectories);
+        if (fonts == nullptr) return refuse("--font-dir is not for this vexa, which was built without fonts", console);
     }
+    const FontServiceScope scope(std::move(fonts));
+    loadLibraries(plan.jobs.front());
     if (const std::string problem = makeDirectory(options.outputDirectory); !problem.empty()) {
         console.write(problem);
         return kFailed;
     }
-    return runPlan(plan, threadsFor(options), paint, console) == 0 ? kDone : kFailed;
+    return runPlan(plan, threadsFor(plan, options), paint, console);
 }
 
 }  // namespace VEXA::Cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,10 @@ struct RenderOptions {
     std::string outputDirectory;
     std::string format;
     unsigned jobs = 0;  ///< documents drawn at once; 0 for one a core
+    std::optional<std::string> scale = std::nullopt;
+    std::optional<std::string> dpi = std::nullopt;
+    std::optional<std::string> background = std::nullopt;
+    std::vector<std::string> fontDirectories = {};
 };
 
 }  // namespace VEXA::Cli

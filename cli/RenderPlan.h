@@ -13,16 +13,18 @@ struct RenderJob {
     std::string input;
     std::string output;
     OutputFormat format = OutputFormat::Svg;
+    PictureOptions picture;
 };
 
 /// What a command line asks for: the jobs in the order of the inputs, or what is wrong with it.
 struct RenderPlan {
     std::vector<RenderJob> jobs;
-    std::string problem;  ///< one sentence for the user; empty when the plan can be carried out
+    bool isJoined = false;  ///< the documents become pages of one file, the output of them all
+    std::string problem;    ///< one sentence for the user; empty when the plan can be carried out
 };
 
-/// Decides the output file and the format of every input. Refuses a plan in which two documents would write one file,
-/// or a picture would replace a document that is read. Looks at files, writes none.
+/// Decides the output file and the format of every input. Refuses a plan in which two documents would write one file
+/// that cannot hold both, or a picture would replace a document that is read. Looks at files, writes none.
 RenderPlan planRender(const RenderOptions& options);
 
 }  // namespace VEXA::Cli

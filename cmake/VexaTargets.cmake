@@ -15,9 +15,10 @@ if(VEXA_SANITIZE)
     endif()
 endif()
 
-# vexa_layer(name SOURCES dir... USES layer... LINKS library...): the objects of one layer of the library.
+# vexa_layer(name SOURCES dir... USES layer... LINKS library... [APART]): the objects of one layer of the library, or
+# of a library of its own.
 function(vexa_layer name)
-    cmake_parse_arguments(LAYER "" "" "SOURCES;USES;LINKS" ${ARGN})
+    cmake_parse_arguments(LAYER "APART" "" "SOURCES;USES;LINKS" ${ARGN})
     set(sources "")
     foreach(dir IN LISTS LAYER_SOURCES)
         file(GLOB found CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${dir}/*.cpp")
@@ -29,7 +30,9 @@ function(vexa_layer name)
     target_link_libraries(vexa_${name} PRIVATE vexa_options ${LAYER_LINKS})
     set_property(TARGET vexa_${name} PROPERTY VEXA_USES "${LAYER_USES}")
     set_property(TARGET vexa_${name} PROPERTY VEXA_LINKS "${LAYER_LINKS}")
-    set_property(GLOBAL APPEND PROPERTY VEXA_LAYERS ${name})
+    if(NOT LAYER_APART)
+        set_property(GLOBAL APPEND PROPERTY VEXA_LAYERS ${name})
+    endif()
 endfunction()
 
 # vexa_link_layers(target layer...): links the objects of the layers and of all that they use.

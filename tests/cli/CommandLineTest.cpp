@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <tuple>
+#include <vector>
 
 namespace VEXA::Cli {
 namespace {
@@ -13,19 +14,44 @@ CommandLine parse(std::vector<const char*> arguments) {
 }
 
 TEST(CommandLine, ReadsEveryOptionOfRender) {
-    const CommandLine line = parse({"render", "a", "-", "--out-dir", "out", "--to", "json", "--jobs", "4", "b"});
-    ASSERT_TRUE(line.render) << line.text;
-    EXPECT_EQ(line.render->inputs, (std::vector<std::string>{"a", "-", "b"}));
+    const CommandLine line = parse(
+        {"render", "a",       "-", "--out-dir", "out", "--to", "json",         "--jobs",       "4",   "--font-dir", "f",
+         "b",      "--scale", "2", "--dpi",     "300", "c",    "--font-dir=g", "--background", "#fff"});
+    ASSERT_TRUE(line.render) << line.answer.text;
+    EXPECT_EQ(line.render->inputs, (std::vector<std::string>{"a", "-", "b", "c"})) << "options stand anywhere";
     EXPECT_EQ(line.render->outputDirectory, "out");
     EXPECT_EQ(line.render->format, "json");
     EXPECT_EQ(line.render->jobs, 4U);
+    EXPECT_EQ(line.render->scale, "2");
+    EXPECT_EQ(line.render->dpi, "300");
+    EXPECT_EQ(line.render->background, "#fff");
+    EXPECT_EQ(line.render->fontDirectories, (std::vector<std::string>{"f", "g"})) << "one for each option";
+}
+
+TEST(CommandLine, KeepsAnOptionThatIsGivenEmpty) {
+    const CommandLine line = parse({"render", "a", "-o", "a.png", "--scale", ""});
+    ASSERT_TRUE(line.render) << line.answer.text;
+    EXPECT_EQ(line.render->scale, "") << "a variable of the shell that is not set; the plan refuses it";
+    EXPECT_EQ(line.render->dpi, std::nullopt);
 }
 
 TEST(CommandLine, TakesADashForAFileAndFilesThatStartWithOne) {
     const CommandLine line = parse({"render", "-o", "-", "--", "--odd.xml"});
-    ASSERT_TRUE(line.render) << line.text;
+    ASSERT_TRUE(line.render) << line.answer.text;
     EXPECT_EQ(line.render->output, "-");
     EXPECT_EQ(line.render->inputs, (std::vector<std::string>{"--odd.xml"}));
+}
+
+TEST(CommandLine, ReadsEveryOptionOfFonts) {
+    const CommandLine line = parse(
+        {"fonts", "--family", "Lato, serif", "--font-dir", "f", "Total", "--bold", "--italic", "--size", "9.5", "Sum"});
+    ASSERT_TRUE(line.fonts) << line.answer.text;
+    EXPECT_EQ(line.fonts->family, "Lato, serif");
+    EXPECT_EQ(line.fonts->directories, (std::vector<std::string>{"f"}));
+    EXPECT_EQ(line.fonts->texts, (std::vector<std::string>{"Total", "Sum"}));
+    EXPECT_TRUE(line.fonts->isBold && line.fonts->isItalic);
+    EXPECT_EQ(line.fonts->size, "9.5");
+    EXPECT_EQ(parse({"fonts"}).fonts->family, "sans-serif") << "of a document that asks for none";
 }
 
 TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
@@ -34,19 +60,22 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
         {{"--help"}, kDone, "vexa render chart.xml", "help of the program shows a first step"},
         {{"--version"}, kDone, "vexa " VEXA_VERSION "\n", "the version of the build"},
         {{"render", "--help"}, kDone, "Exit status", "help of the command, not of the program"},
+        {{"fonts", "--help"}, kDone, "vexa fonts --family", "help of the other command"},
         {{"draw"}, kWrongUsage, "vexa: ", "an unknown command"},
         {{"render", "a.xml", "--colour"}, kWrongUsage, "vexa render: ", "an unknown option"},
         {{"render", "a.xml", "--out"}, kWrongUsage, "--out", "an abbreviation is not guessed"},
         {{"render", "a.xml", "-o"}, kWrongUsage, "-o", "an option without its value"},
+        {{"render", "a.xml", "--scale", "1", "--scale", "2"}, kWrongUsage, "--scale", "two scales for one picture"},
+        {{"fonts", "--bold=maybe"}, kWrongUsage, "vexa fonts: ", "a flag has no such value"},
         {{"render", "a.xml", "--jobs", "0"}, kWrongUsage, "--jobs", "nobody would draw"},
         {{"render", "a.xml", "--jobs", "1000000"}, kWrongUsage, "--jobs", "more threads than a system gives"},
         {{"render", "a.xml", "-o", "a.svg", "-o", "b.svg"}, kWrongUsage, "-o", "two outputs for one document"},
     };
     for (const auto& [arguments, status, part, why] : cases) {
         const CommandLine line = parse(arguments);
-        EXPECT_FALSE(line.render) << why;
-        EXPECT_EQ(line.status, status) << why;
-        EXPECT_NE(line.text.find(part), std::string::npos) << why << "\n" << line.text;
+        EXPECT_FALSE(line.render || line.fonts) << why;
+        EXPECT_EQ(line.answer.status, status) << why;
+        EXPECT_NE(line.answer.text.find(part), std::string::npos) << why << "\n" << line.answer.text;
     }
 }
 

@@ -102,9 +102,9 @@ protected:
 };
 
 TEST_F(FontManagerTest, AnInstalledServiceAnswersUntilItIsReplaced) {
-    EXPECT_EQ(measured(), 1933) << "the built-in service is there from the start";
+    EXPECT_EQ(measured(), 1933) << "the default service is there from the start";
     const auto fixed = fixedWidthFontService(600);
-    EXPECT_EQ(FontManager::setService(fixed), builtInFontService());
+    EXPECT_EQ(FontManager::setService(fixed), defaultFontService());
     EXPECT_EQ(measured(), 600);
     EXPECT_EQ(FontManager::setService(std::make_shared<NoFonts>()), fixed);
     EXPECT_TRUE(FontManager::getFont(make<Font>()).isEmpty()) << "a service may have no program";

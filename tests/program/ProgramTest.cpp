@@ -1,35 +1,9 @@
 // Runs the program itself, as a shell does.
 
-#include <gtest/gtest.h>
-#include <sys/wait.h>
-
-#include <cstdlib>
-#include <string>
-
-#include "tests/cli/CliTestTools.h"
+#include "tests/program/ProgramTools.h"
 
 namespace VEXA::Cli {
 namespace {
-
-const std::string kOpen = "<root xmlns='http://vexa-charts.org/2008/vx' width='200px' height='100px' theme='none'>\n";
-
-struct Outcome {
-    int status;
-    std::string output;
-    std::string errors;
-};
-
-/// What a shell does with a command in the directory.
-Outcome shell(const TestDirectory& directory, const std::string& command) {
-    const int status = std::system(("cd " + directory.path("") + " && " + command + " >.out 2>.err").c_str());
-    return {WEXITSTATUS(status), directory.read(".out"), directory.read(".err")};
-}
-
-Outcome run(const TestDirectory& directory, const std::string& arguments) {
-    return shell(directory, VEXA_PROGRAM " " + arguments);
-}
-
-bool startsWith(const std::string& text, const std::string& start) { return text.rfind(start, 0) == 0; }
 
 TEST(Program, TellsEveryFaultInOneLineWithItsPlaceAndLeavesNoFile) {
     struct Case {
@@ -112,7 +86,9 @@ TEST(Program, EndsWithTheStatusThatItsHelpPromises) {
         {"--version", 0, "what was asked for"},
         {"", 2, "nothing to do"},
         {"render chart.xml", 2, "nowhere to draw to"},
-        {"render chart.xml -o chart.png", 2, "a format that cannot be written"},
+        {"render chart.xml -o chart.gif", 2, "a format that cannot be written"},
+        {"render chart.xml chart.xml -o chart.svg", 2, "two pictures in a file that holds one"},
+        {"render chart.xml -o chart.svg --scale 2", 2, "an option that the format has no use for"},
         {"render chart.xml -o chart.xml --to svg", 2, "the document itself"},
         {"render none.xml chart.xml --out-dir out", 1, "one of two cannot be read"},
     };

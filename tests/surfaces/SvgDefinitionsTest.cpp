@@ -41,6 +41,12 @@ SmartPtr<Brush> turned() {
     return gradient;
 }
 
+SmartPtr<Brush> offItsEnds() {
+    const SmartPtr<GradientBrush> gradient = redToBlue(GradientUnits(), GradientSpreadMethod::Repeat);
+    gradient->setStops({{0.25F, colorOf(0x00FF00), 1}, {0.5F, colorOf(0x0000FF), 1}});
+    return gradient;
+}
+
 void levelLines(RenderContext& c) {
     c.drawLine(0, 5, 9, 5.001F);
     c.drawPath(PathCommand::polygon({{3, 0}, {3, 7}, {3, 9}}, false));
@@ -70,6 +76,12 @@ TEST(SvgDefinitions, Gradients) {
          "gradientTransform=\"matrix(1 0 0 0.25 0 0.1875)\"><stop offset=\"0\" stop-color=\"#ffffff\" "
          "stop-opacity=\"0.5\"/><stop offset=\"1\" stop-color=\"#000000\"/></radialGradient>\n</defs>\n" VEXA_DOT
          "/>\n"},
+        {"a repeated one has stops at its ends, without which cairo blends the last colour into the first",
+         dotIn(offItsEnds()),
+         "<defs>\n<linearGradient id=\"ID\" x1=\"0\" y1=\"0\" x2=\"1\" y2=\"0\" spreadMethod=\"repeat\">"
+         "<stop offset=\"0\" stop-color=\"#00ff00\"/><stop offset=\"0.25\" stop-color=\"#00ff00\"/>"
+         "<stop offset=\"0.5\" stop-color=\"#0000ff\"/><stop offset=\"1\" stop-color=\"#0000ff\"/>"
+         "</linearGradient>\n</defs>\n" VEXA_DOT "/>\n"},
         {"a level line has no box to stretch over: the last stop",
          painted(nullptr, make<Stroke>(redToBlue(), 1.0F), levelLines),
          "<line x1=\"0\" y1=\"5\" x2=\"9\" y2=\"5\" stroke=\"#0000ff\"/>\n"
@@ -133,6 +145,7 @@ TEST(SvgClips, ArePathsInTheTransformOfTheirTime) {
         {"four corners alone make no rectangle", corners, Matrix(),
          R"(<path d="M0 0L5 0L5 5L1 5Z" clip-rule="evenodd"/>)"},
         {"nothing lies within a path without a place", square, Matrix(kInfinity, 0, 0, 1, 0, 0), ""},
+        {"nor within one with such a corner", PathCommand::polygon({{0, 0}, {5, kNaN}, {5, 5}}, true), Matrix(), ""},
         {"nor within an empty path", make<Path>(), Matrix(), ""},
     };
     for (const Case& c : cases) {

@@ -12,7 +12,8 @@ TEST(SvgSurface, TheRootSaysHowLargeAndWhatItIs) {
     EXPECT_EQ(
         documentOf<SvgSurface>([](RenderContext&) {}),
         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"200\" height=\"100\" viewBox=\"0 0 200 100\" role=\"img\" "
-        "font-family=\"Liberation Sans, Arial, Helvetica, sans-serif\" fill-rule=\"evenodd\" stroke-miterlimit=\"2\">\n"
+        "direction=\"ltr\" font-family=\"Liberation Sans, Arial, Helvetica, sans-serif\" fill-rule=\"evenodd\" "
+        "stroke-miterlimit=\"2\">\n"
         "</svg>\n");
 }
 
@@ -33,6 +34,13 @@ Drawing filled(const Drawing& draw) { return painted(solid(0xFF8000), nullptr, d
 Drawing stroked(const Drawing& draw) { return painted(nullptr, pen(0x102030), draw); }
 Drawing both(const Drawing& draw) { return painted(solid(0xFF8000), pen(0x102030), draw); }
 
+SmartPtr<Stroke> penWith(LineCap cap) {
+    const SmartPtr<Stroke> stroke = pen(0x102030);
+    stroke->setStartLineCap(cap);
+    return stroke;
+}
+
+void point(RenderContext& c) { c.drawPolygon({{5, 5}}, false); }
 void openPath(RenderContext& c) { c.drawPath(PathCommand::polygon({{0, 0}, {9, 0}, {9, 9}}, false)); }
 
 TEST(SvgSurface, Shapes) {
@@ -57,6 +65,11 @@ TEST(SvgSurface, Shapes) {
         {"an ellipse", filled([](auto& c) { c.drawEllipse(1, 2, 3, -4); }),
          R"(<ellipse cx="1" cy="2" rx="3" ry="4" fill="#ff8000"/>)"},
         {"without extent, filled, it is nothing", filled([](auto& c) { c.drawEllipse(1, 2, 0, 4); }), ""},
+        {"a point, which a round cap shows", painted(nullptr, penWith(LineCap::Round), point),
+         R"(<path d="M5 5L5 5" fill="none" stroke="#102030" stroke-linecap="round"/>)"},
+        {"a square has no direction there", painted(nullptr, penWith(LineCap::Square), point), ""},
+        {"nor on a line without length",
+         painted(nullptr, penWith(LineCap::Square), [](auto& c) { c.drawLine(5, 5, 5, 5); }), ""},
         {"an open path is filled", filled(openPath), R"(<path d="M0 0L9 0L9 9" fill="#ff8000"/>)"},
         {"an empty path", both([](auto& c) { c.drawPath(make<Path>()); }), ""},
         {"without a colour", painted(make<SolidColorBrush>(nullptr), make<Stroke>(nullptr, 1.0F), openPath), ""},
@@ -84,10 +97,32 @@ TEST(SvgSurface, Places) {
         {"under an enlargement a hundredth is a whole px", circleUnder(Matrix().scale(100, 100)),
          VEXA_CIRCLE("0.125", "matrix(100 0 0 100 0 0)")},
         {"a transform that is not finite leaves no place", circleUnder(Matrix().scale(kInfinity, 1)), ""},
-        {"coordinates are cut", filled([](auto& c) { c.drawRectangle(-1e20F, 0, kInfinity, 5, 0, 0); }),
+        {"coordinates are cut", filled([](auto& c) { c.drawRectangle(-1e20F, 0, 1e30F, 5, 0, 0); }),
          R"(<rect x="-1000000000" y="0" width="1000000000" height="5" fill="#ff8000"/>)"},
     };
     for (const DrawingCase& c : cases) expectElements(c);
+}
+
+TEST(SvgSurface, WhatHasNoPlaceLeavesNoMark) {
+    for (const float number : {kNaN, kInfinity, -kInfinity}) {
+        const DrawingCase cases[] = {
+            {"a line", both([=](auto& c) { c.drawLine(0, 0, 5, number); }), ""},
+            {"a rectangle", both([=](auto& c) { c.drawRectangle(number, 0, 5, 5, 0, 0); }), ""},
+            {"one without an end", both([=](auto& c) { c.drawRectangle(0, 0, 5, number, 0, 0); }), ""},
+            {"an ellipse", both([=](auto& c) { c.drawEllipse(0, number, 5, 5); }), ""},
+            {"one without an end", both([=](auto& c) { c.drawEllipse(0, 0, number, 5); }), ""},
+            {"a path", both([=](auto& c) {
+                 c.drawPolygon({{0, 0}, {number, 5}, {5, 5}}, true);
+             }),
+             ""},
+            {"a text", filled([=](auto& c) {
+                 c.setFont(fontOf("x", 12));
+                 c.drawText("a", 1, number, 0, 0, 0);
+             }),
+             ""},
+        };
+        for (const DrawingCase& c : cases) expectElements(c);
+    }
 }
 
 TEST(SvgSurface, Strokes) {

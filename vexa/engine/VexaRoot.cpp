@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "vexa/engine/MissingCharacters.h"
 #include "vexa/support/core/Log.h"
+#include "vexa/support/drawing/FontService.h"
 
 namespace VEXA {
 
@@ -30,6 +32,7 @@ XmlObjectTypeInfo* VexaRoot::getTypeInfoInstance() {
 void VexaRoot::render(VexaRenderContext&) {}
 
 void VexaRoot::render(SmartPtr<RenderContext> surface, float width, float height) {
+    FontManager::takeMissing();  // of a picture that an exception ended
     const SizeF size{getWidth(width), getHeight(height)};
     VexaRenderContext context(surface, size.width, size.height);
     const RenderContextScope scope(surface);
@@ -43,6 +46,7 @@ void VexaRoot::render(SmartPtr<RenderContext> surface, float width, float height
     preRender(context, nullptr);
     drawBackground(context);
     renderChildren(context);
+    tellMissingCharacters(FontManager::takeMissing(), getPlace());
 }
 
 // The picture is drawn all the same: a surface may know what to make of it.

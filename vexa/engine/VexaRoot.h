@@ -33,8 +33,8 @@ public:
 
     /// Paints the whole chart: background, bodies in document order, title, legend. `width` and `height` are what a
     /// size in percent refers to, in px. Warns when nothing can show: of a page without extent, and of a view box that
-    /// leads beyond all coordinates. The surface's state is as before when it ends, also by an exception. Throws
-    /// Exception 34011 for a view box without extent.
+    /// leads beyond all coordinates; and of characters that no font has. The surface's state is as before when it ends,
+    /// also by an exception. Throws Exception 34011 for a view box without extent.
     void render(SmartPtr<RenderContext> surface, float width, float height);
     /// Does nothing: a root is painted by the call above only.
     void render(VexaRenderContext& context) override;

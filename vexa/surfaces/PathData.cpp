@@ -1,6 +1,7 @@
 #include "vexa/surfaces/PathData.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace VEXA {
 
@@ -52,6 +53,17 @@ bool isFlat(const Path& path, float tolerance) noexcept {
         high = {std::max(high.x, point.x), std::max(high.y, point.y)};
     }
     return high.x - low.x <= tolerance || high.y - low.y <= tolerance;
+}
+
+bool isPoint(const Path& path) noexcept {
+    const auto& points = path.points();
+    return std::all_of(points.begin(), points.end(), [&](const PointF& point) { return point == points.front(); });
+}
+
+bool isFinite(const Path& path) noexcept {
+    const auto& points = path.points();
+    return std::all_of(points.begin(), points.end(),
+                       [](const PointF& point) { return std::isfinite(point.x) && std::isfinite(point.y); });
 }
 
 }  // namespace VEXA

@@ -16,4 +16,10 @@ void appendPathData(const Path& path, NumberWriter number, std::string& out);
 /// level line, or when there are none.
 bool isFlat(const Path& path, float tolerance) noexcept;
 
+/// True when all points of the path are one.
+bool isPoint(const Path& path) noexcept;
+
+/// False when a coordinate is infinite or no number: such a shape has no place.
+bool isFinite(const Path& path) noexcept;
+
 }  // namespace VEXA

@@ -98,19 +98,32 @@ void SvgDefinitions::defineGradient(const GradientBrush& gradient, std::uint64_t
 }
 
 void SvgDefinitions::defineStops(const GradientBrush& gradient) {
+    // Viewers that draw with cairo blend the last colour into the first where a repeated gradient lacks a stop there.
+    const bool needsEnds = gradient.getSpreadMethod() == GradientSpreadMethod::Repeat;
+    const StopPoint* last = nullptr;
+    float reached = 0;
     for (const StopPoint& stop : gradient.getStops()) {
         if (!stop.color) continue;
-        output_.number("<stop offset=\"", std::clamp(stop.offset, 0.0F, 1.0F), kShortest);
-        output_.color(" stop-color=\"", stop.color->rgb());
-        const float opacity = cutOpacity(stop.opacity);
-        if (opacity < 1) output_.number(" stop-opacity=\"", opacity, kShortest);
-        output_.raw("/>");
+        const float offset = std::clamp(stop.offset, 0.0F, 1.0F);
+        if (needsEnds && last == nullptr && offset > 0) defineStop(0, stop);
+        defineStop(offset, stop);
+        reached = std::max(reached, offset);
+        last = &stop;
     }
+    if (needsEnds && reached < 1 && last != nullptr) defineStop(1, *last);
+}
+
+void SvgDefinitions::defineStop(float offset, const StopPoint& stop) {
+    output_.number("<stop offset=\"", offset, kShortest);
+    output_.color(" stop-color=\"", stop.color.get()->rgb());
+    const float opacity = cutOpacity(stop.opacity);
+    if (opacity < 1) output_.number(" stop-opacity=\"", opacity, kShortest);
+    output_.raw("/>");
 }
 
 void SvgDefinitions::defineClip(const Path& path, const Matrix& transform, std::uint64_t id) {
     output_.id("<clipPath id=\"", id, "\">");
-    const bool letsThrough = !path.isEmpty() && transform.isFinite();
+    const bool letsThrough = !path.isEmpty() && isFinite(path) && transform.isFinite();
     if (letsThrough && transform.isScaleAndTranslate() && isRectangle(path)) {
         clipRectangle(path, transform);
     } else if (letsThrough) {

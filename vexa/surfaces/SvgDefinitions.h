@@ -13,7 +13,7 @@ class SvgDefinitions {
 public:
     /// The id of the gradient, defined when it is new. REQUIRES: a gradient that resolvePaint() gave.
     std::uint64_t gradient(const GradientBrush& gradient);
-    /// The id of the clip path; a transform that is not finite lets nothing through.
+    /// The id of the clip path; one that is not finite, or whose transform is not, lets nothing through.
     std::uint64_t clip(const Path& path, const Matrix& transform);
 
     /// The elements so far, for a `defs` element.
@@ -24,6 +24,7 @@ private:
     void addGeometry(const GradientBrush& gradient);
     void defineGradient(const GradientBrush& gradient, std::uint64_t id);
     void defineStops(const GradientBrush& gradient);
+    void defineStop(float offset, const StopPoint& stop);
     void defineClip(const Path& path, const Matrix& transform, std::uint64_t id);
     void clipRectangle(const Path& path, const Matrix& transform);
 

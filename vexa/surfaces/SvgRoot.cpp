@@ -43,6 +43,7 @@ std::string svgRoot(const DocumentInfo& info, const std::optional<SizeF>& page) 
         out.quoted(" lang=\"", info.language.view());
         out.quoted(" xml:lang=\"", info.language.view());
     }
+    out.word(" direction=\"", "ltr");  // a page in Hebrew would hand on its own, and texts would end at their x
     out.word(" font-family=\"", kSvgDefaultFamilies);
     out.raw(" fill-rule=\"evenodd\"");
     out.number(" stroke-miterlimit=\"", kSvgMiterLimit, Format::appendHundredths);

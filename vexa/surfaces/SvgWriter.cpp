@@ -5,6 +5,7 @@
 
 #include "vexa/support/core/Format.h"
 #include "vexa/support/core/Limits.h"
+#include "vexa/support/drawing/TextDirection.h"
 #include "vexa/surfaces/Keywords.h"
 #include "vexa/surfaces/SvgFontFamily.h"
 #include "vexa/surfaces/SvgRoot.h"
@@ -12,12 +13,25 @@
 
 namespace VEXA {
 
+namespace {
+
+template <class... Numbers>
+bool areFinite(Numbers... numbers) noexcept {
+    return (std::isfinite(numbers) && ...);
+}
+
+/// A point has no direction in which a square could lie; SVG would draw one all the same.
+bool showsPoints(const Stroke& stroke) noexcept { return stroke.getStartLineCap() == LineCap::Round; }
+
+}  // namespace
+
 void SvgWriter::line(const DrawingState& state, PointF from, PointF to) {
     const NumberWriter numbers = SvgOutput::numbersUnder(state.transform);
     const float tolerance = SvgOutput::toleranceOf(numbers);
     const bool flat = std::abs(to.x - from.x) <= tolerance || std::abs(to.y - from.y) <= tolerance;
     const Paint paint = styleOf(state, flat).stroke;
-    if (!paint.paints()) return;
+    if (!paint.paints() || !areFinite(from.x, from.y, to.x, to.y)) return;
+    if (from == to && !showsPoints(*state.stroke)) return;
     open(state, "<line");
     output_.number(" x1=\"", from.x, numbers);
     output_.number(" y1=\"", from.y, numbers);
@@ -31,6 +45,7 @@ void SvgWriter::line(const DrawingState& state, PointF from, PointF to) {
 void SvgWriter::rectangle(const DrawingState& state, RectF rectangle, SizeF radii) {
     const NumberWriter numbers = SvgOutput::numbersUnder(state.transform);
     const auto [x, y, width, height] = upright(rectangle);
+    if (!areFinite(x, y, width, height)) return;
     if (!(width > 0 && height > 0)) {
         lineShape(state, *PathCommand::rectangle(x, y, width, height, 0, 0), numbers);
         return;
@@ -52,6 +67,7 @@ void SvgWriter::rectangle(const DrawingState& state, RectF rectangle, SizeF radi
 void SvgWriter::ellipse(const DrawingState& state, PointF centre, SizeF radii) {
     const NumberWriter numbers = SvgOutput::numbersUnder(state.transform);
     const auto [rx, ry] = SizeF{std::abs(radii.width), std::abs(radii.height)};
+    if (!areFinite(centre.x, centre.y, rx, ry)) return;
     if (!(rx > 0 && ry > 0)) {
         lineShape(state, *PathCommand::ellipse(centre.x, centre.y, rx, ry), numbers);
         return;
@@ -70,12 +86,13 @@ void SvgWriter::path(const DrawingState& state, const Path& path) {
     const NumberWriter numbers = SvgOutput::numbersUnder(state.transform);
     Style style = styleOf(state, false);
     if (style.dependsOnBox() && isFlat(path, SvgOutput::toleranceOf(numbers))) style = styleOf(state, true);
-    if (style.paints() && !path.isEmpty()) outline(state, path, style, numbers);
+    if (style.paints() && !path.isEmpty() && isFinite(path)) outline(state, path, style, numbers);
 }
 
 void SvgWriter::text(const DrawingState& state, std::u32string_view text, PointF at, float spacing) {
     const Paint paint = styleOf(state, false).fill;
     if (text.empty() || !state.font || !(state.font->getFontSize() > 0) || !paint.paints()) return;
+    if (!areFinite(at.x, at.y)) return;
     const float scale = paint.gradient == nullptr ? textScale(state.transform) : 1.0F;
     const auto& [a, b, c, d, e, f] = state.transform.getElements();
     const Matrix matrix(a / scale, b / scale, c / scale, d / scale, e, f);
@@ -86,6 +103,7 @@ void SvgWriter::text(const DrawingState& state, std::u32string_view text, PointF
     placed(matrix);
     fill(paint);
     font(*state.font, scale, numbers);
+    if (isRightToLeft(text)) output_.raw(" direction=\"rtl\" text-anchor=\"end\"");  // its end stands at x
     if (spacing != 0 && std::isfinite(spacing)) {
         output_.number(" letter-spacing=\"", spacing * scale, SvgOutput::numbersForSize(spacing * scale, numbers));
     }
@@ -133,6 +151,7 @@ void SvgWriter::lineShape(const DrawingState& state, const Path& path, NumberWri
 }
 
 void SvgWriter::outline(const DrawingState& state, const Path& path, const Style& style, NumberWriter numbers) {
+    if (isPoint(path) && !(style.stroke.paints() && showsPoints(*state.stroke))) return;
     open(state, "<path");
     output_.path(" d=\"", path, numbers);
     close(state, style, numbers);

@@ -8,7 +8,7 @@
 namespace VEXA {
 
 /// Writes the content of an SVG document: one element for each operation that paints something, in groups for the
-/// clips.
+/// clips. Shapes with a coordinate that is not finite have no place and leave no mark.
 class SvgWriter {
 public:
     void line(const DrawingState& state, PointF from, PointF to);

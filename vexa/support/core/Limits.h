@@ -39,9 +39,25 @@ inline constexpr std::size_t kDashEntries = 100;
 /// Characters of a requested font family; every text of a picture could repeat a list of a megabyte.
 /// Test: Limits.FontFamily
 inline constexpr std::size_t kFontFamily = 1000;
+/// Characters that are shaped as one letter with its marks. HarfBuzz takes time in proportion to the square of the
+/// marks: a megabyte of them on one letter would be an hour. Test: LongTexts.TakeTimeInProportionToTheirLength
+inline constexpr std::size_t kClusterCharacters = 32;
 /// Largest coordinate that is written, in px; raster libraries count in fixed point. Test: Format.WritesHundredths
 inline constexpr float kCoordinate = 1e9F;
 /// Largest font size, in px. Test: Limits.FontSize
 inline constexpr float kFontSize = 10'000.0F;
+/// Largest coordinate on a page of pixels or points: cairo counts in 1/256 within 32 bits, and a line's width and its
+/// sharp corners come on top. Test: CairoSurface.HostileNumbers
+inline constexpr double kRasterCoordinate = 2e6;
+/// Pixels of a side of a picture, and bytes of all. A chart of 100,000 px at a scale of 10 would ask for 4 TB.
+/// Test: PngLimits.RefusesBeforeItAllocates
+inline constexpr int kRasterSide = 32'767;
+inline constexpr double kRasterBytes = 1'073'741'824;
+/// Largest side of a page of a PDF, in px: 200 inches, beyond which viewers refuse it. Test: PdfLimits.PageSize
+inline constexpr float kPdfSide = 19'200.0F;
+/// Dashes of one outline, and of all of a page; each is a shape for cairo, and a pattern of 1e-6 px over 1000 px would
+/// be 1e9 of them. Longer patterns take their place. Test: CairoSurface.DashesAreBounded
+inline constexpr double kDashes = 100'000;
+inline constexpr double kPageDashes = 1'000'000;
 
 }  // namespace VEXA::Limits

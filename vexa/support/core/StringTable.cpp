@@ -24,6 +24,8 @@ constexpr Message kMessages[] = {
     {1004, R"(writing "{0}" failed: {1}; make room, or write to another place)"},
     {1005, R"("{0}" cannot be put in place: {1}; check the directory and the permissions)"},
     {1006, "this stream reads memory of its caller and cannot be written to; write to a memory stream or a file"},
+    {1007, R"(the library "{0}" cannot be loaded: {1}; install it (on Debian the package {2}))"},
+    {1008, R"(the library "{0}" has no function "{1}"; install a newer one (on Debian the package {2}))"},
 
     // States that should not occur.
     {2001, "{0}"},
@@ -75,6 +77,28 @@ constexpr Message kMessages[] = {
     {34017,
      R"(the page has no extent ({0} by {1} px), nothing of it shows; give the root a width and a height above 0)"},
     {34018, R"(the view box "{0}" leads beyond all coordinates, nothing of the chart shows; write smaller numbers)"},
+
+    // Fonts.
+    {34030, R"(the directory of fonts "{0}" cannot be read: {1}; check the name and the permissions)"},
+    {34031,
+     "no font has {0}, it is measured and drawn as a box; install a font that has it, or name its directory with "
+     "--font-dir"},
+    {34032, R"(the directory of fonts "{0}" holds no font; name one with TrueType or OpenType fonts, or leave it out)"},
+    {34033,
+     "no font has {0}, they are measured and drawn as boxes; install fonts that have them, or name their directory "
+     "with --font-dir"},
+
+    // Pictures of pixels and PDF.
+    {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
+    {35001, R"(a picture cannot be drawn at a scale of {0}; take one above 0)"},
+    {35002,
+     "a picture of {0} by {1} pixels is too large, it has at most {2} pixels a side and 1 GiB of memory; take a "
+     "smaller "
+     "scale or a smaller chart, or write a PDF"},
+    {35003, R"(the drawing library cairo failed: {0})"},
+    {35004, R"(the font "{0}" was measured but cannot be drawn with; take another font)"},
+    {35005, "a page of {0} by {1} px is too large for a PDF, which has at most {2} px a side; make the chart smaller"},
+    {35006, "the library libpng failed: {0}"},
 };
 
 static_assert(std::is_sorted(std::begin(kMessages), std::end(kMessages),

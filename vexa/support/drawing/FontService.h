@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "vexa/support/drawing/Font.h"
 
@@ -37,10 +39,20 @@ public:
     /// The program for a font; empty when the installed service has none. Throws NullPointerException without a font.
     static SmartPtr<FontProgram> getFont(const SmartPtr<Font>& font);
 
-    /// Installs a service for all renders that start afterwards; empty restores the built-in one. Returns the one
+    /// Installs a service for all renders that start afterwards; empty restores the default one. Returns the one
     /// before.
     static std::shared_ptr<FontService> setService(std::shared_ptr<FontService> service);
+
+    /// Remembers, for this thread, characters of a measured or drawn text that no font has. A service calls it, also
+    /// when it answers from a cache.
+    static void noteMissing(std::u32string_view characters);
+    /// The characters remembered since the last call, each once, in the order met; a picture's warning names them.
+    static std::u32string takeMissing();
 };
+
+/// The service in force where none was installed: the shaping one of `vexa/fonts` where that is built in, else the
+/// built-in table. Which of the two is settled when the library is built.
+std::shared_ptr<FontService> defaultFontService();
 
 /// The service that is always there: Liberation Sans' advance widths (those of Arial and Helvetica) in four styles for
 /// Latin, Greek and Cyrillic text, the usual signs and symbols, and an average for every other character (1 em for East

@@ -83,13 +83,17 @@ constexpr int kUnknown = -1;
 int standaloneWidth(const LiberationSansStyle& style, char32_t character) noexcept {
     const char32_t ascii = character - U' ';
     if (ascii < 95) return style.widths[ascii];
-    if (character < 0xA0) return style.widths[0];  // a control character is drawn as a space
     const KindOfWidth* kind = entryAtOrBefore(std::begin(kKinds), std::end(kKinds), character);
     if (kind != nullptr && character <= kind->last) return kUnknown;
     const auto blocks = liberationSansBlocks();
     const LiberationSansBlock* block = entryAtOrBefore(blocks.data(), blocks.data() + blocks.size(), character);
     const char32_t index = character - block->first;
     return index < block->count ? style.widths[block->start + index] : kUnknown;
+}
+
+/// What is drawn for a character: a space for a control character.
+constexpr char32_t shownFor(char32_t character) noexcept {
+    return character < 0x20 || (character >= 0x7F && character < 0xA0) ? U' ' : character;
 }
 
 int approximateWidth(const LiberationSansStyle& style, char32_t character) noexcept {
@@ -105,7 +109,8 @@ std::int64_t sumOf(bool bold, bool italic, std::u32string_view text, WidthOf wid
     const LiberationSansStyle& style = liberationSansStyle(bold, italic);
     std::int64_t sum = 0;
     char32_t previous = 0;
-    for (const char32_t character : text) {
+    for (const char32_t each : text) {
+        const char32_t character = shownFor(each);
         const int width = widthOf(style, character);
         if (width == kUnknown) return kUnknown;
         sum += width + liberationSansKerning(bold, italic, previous, character);

@@ -1,0 +1,76 @@
+#include "cli/DocumentPainter.h"
+
+#include <exception>
+#include <new>
+
+#include "cli/DocumentStream.h"
+#include "cli/RenderOptions.h"
+#include "vexa/support/core/Exception.h"
+
+namespace VEXA::Cli {
+namespace {
+
+SmartPtr<IO::Stream> openInput(const std::string& input) {
+    if (input == kStandardStream) return IO::FileStream::standardInput();
+    return make<IO::FileStream>(input, IO::FileStream::Mode::Read);
+}
+
+void writeOutput(const std::string& output, std::string_view bytes) {
+    if (output != kStandardStream) return IO::writeWholeFile(output, bytes);
+    IO::FileStream::standardOutput()->write(bytes.data(), bytes.size());
+}
+
+/// Paints; where there is no element, the engine misses an object, and the reader of the message needs plainer words.
+void paintFrom(DocumentStream& document, const Painter& paint, SmartPtr<RenderContext> surface) {
+    try {
+        paint(&document, std::move(surface));
+    } catch (const NullPointerException& error) {
+        if (error.getPlace().isKnown() || document.hasElement()) throw;
+        raise(UnreacheableCodeException("the document is empty; a chart document starts with the element root"),
+              "DocumentPainter", __LINE__, {1, 1});
+    }
+}
+
+/// A document without a usable top element has no element that could be named, so its start is.
+SourcePlace placeOf(const Exception& error) {
+    const bool wholeDocument = std::string_view(error.getCodeLocation().source) == "VexaEngine";
+    return wholeDocument && !error.getPlace().isKnown() ? SourcePlace{1, 1} : error.getPlace();
+}
+
+/// Runs one step; what it throws becomes an error told by `tell`. False when it failed.
+template <class Step, class Tell>
+bool succeeds(Step step, Tell tell) {
+    try {
+        step();
+        return true;
+    } catch (const Exception& error) {
+        tell(placeOf(error), error.what());
+    } catch (const std::bad_alloc&) {
+        tell(SourcePlace{}, "there is not enough memory");
+    } catch (const std::exception& error) {
+        tell(SourcePlace{}, error.what());
+    }
+    return false;
+}
+
+}  // namespace
+
+bool paintDocument(const std::string& input, const Painter& paint, const std::function<SmartPtr<RenderContext>()>& open,
+                   MessageCollector& messages) {
+    const auto load = [&] {
+        const auto document = make<DocumentStream>(openInput(input));
+        paintFrom(*document, paint, open());
+    };
+    return succeeds(load, [&](SourcePlace place, std::string_view text) { messages.addError(place, text); });
+}
+
+bool writePicture(const std::string& output, const IO::MemoryStream& picture, const std::function<void()>& finish,
+                  MessageCollector& messages) {
+    const auto write = [&] {
+        finish();
+        writeOutput(output, picture.bytes());
+    };
+    return succeeds(write, [&](SourcePlace, std::string_view text) { messages.addError(outputName(output), text); });
+}
+
+}  // namespace VEXA::Cli

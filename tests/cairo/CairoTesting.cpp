@@ -1,0 +1,122 @@
+#include "tests/cairo/CairoTesting.h"
+
+#include <png.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+
+/// The thread sanitizer does not see the atomic operations of libraries that were built without it.
+extern "C" const char* __tsan_default_suppressions() { return "called_from_lib:libcairo.so\n"; }
+
+namespace VEXA::CairoTesting {
+
+namespace {
+
+/// A file that is there as long as this.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::string& bytes) {
+        const int descriptor = mkstemp(name_.data());
+        EXPECT_EQ(write(descriptor, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+        close(descriptor);
+    }
+    ~TemporaryFile() { unlink(name_.data()); }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    std::string name() const { return name_.data(); }
+
+private:
+    std::array<char, 32> name_{"/tmp/vexa-cairo-test-XXXXXX"};
+};
+
+void draw(CairoSurface& surface, const Drawing& drawing, SizeF page) {
+    surface.beginDocument();
+    surface.beginPage(page);
+    drawing(surface);
+    surface.endPage();
+    surface.endDocument();
+}
+
+}  // namespace
+
+std::uint32_t Picture::at(int x, int y) const {
+    if (x < 0 || y < 0 || x >= width || y >= height) return 0;
+    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+}
+
+Picture readPng(const std::string& bytes) {
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    EXPECT_TRUE(png_image_begin_read_from_memory(&image, bytes.data(), bytes.size())) << image.message;
+    image.format = PNG_FORMAT_BGRA;
+    Picture picture{static_cast<int>(image.width), static_cast<int>(image.height), {}};
+    picture.pixels.resize(std::size_t{image.width} * image.height);
+    EXPECT_TRUE(png_image_finish_read(&image, nullptr, picture.pixels.data(), 0, nullptr)) << image.message;
+    EXPECT_EQ(image.warning_or_error, 0U) << image.message;
+    return picture;
+}
+
+std::string pngOf(const Drawing& drawing, const PngOptions& options, SizeF page) {
+    const auto stream = make<IO::MemoryStream>();
+    draw(*CairoSurface::png(stream, options), drawing, page);
+    return stream->bytes();
+}
+
+std::string pdfOf(const Drawing& drawing, const DocumentInfo& info, SizeF page, const PdfOptions& options) {
+    const auto stream = make<IO::MemoryStream>();
+    const auto surface = CairoSurface::pdf(stream, options);
+    surface->setDocumentInfo(info);
+    draw(*surface, drawing, page);
+    return stream->bytes();
+}
+
+Picture drawn(const Drawing& drawing, const PngOptions& options, SizeF page) {
+    return readPng(pngOf(drawing, options, page));
+}
+
+std::string outputOf(const std::string& command, const std::string& input) {
+    const TemporaryFile file(input);
+    std::string line = command;
+    line.replace(line.find("INPUT"), 5, file.name());
+    std::FILE* const pipe = popen(line.c_str(), "r");
+    if (pipe == nullptr) return {};
+    std::string output;
+    std::array<char, 4096> buffer;
+    for (std::size_t size; (size = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) {
+        output.append(buffer.data(), size);
+    }
+    EXPECT_EQ(pclose(pipe), 0) << line;
+    return output;
+}
+
+Picture renderedPdf(const std::string& pdf) { return readPng(outputOf("pdftoppm -r 96 -png -f 1 -l 1 INPUT", pdf)); }
+
+void expectPixel(const Picture& picture, int x, int y, std::uint32_t expected, const std::string& why, int tolerance) {
+    const std::uint32_t found = picture.at(x, y);
+    if (expected >> 24U == 0 && found >> 24U <= static_cast<std::uint32_t>(tolerance)) return;
+    for (const unsigned shift : {24U, 16U, 8U, 0U}) {
+        const auto wanted = static_cast<int>(expected >> shift & 0xFFU);
+        EXPECT_NEAR(static_cast<int>(found >> shift & 0xFFU), wanted, tolerance)
+            << why << ": component " << shift << " at " << x << ", " << y;
+    }
+}
+
+void expectBlankOutside(const Picture& picture, int left, int top, int right, int bottom, const std::string& why) {
+    int marks = 0;
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x) {
+            const bool isInside = x >= left && x < right && y >= top && y < bottom;
+            if (!isInside && picture.alphaAt(x, y) > 0) ++marks;
+        }
+    }
+    EXPECT_EQ(marks, 0) << why;
+}
+
+void expectPixels(const PixelCase& c) {
+    const Picture picture = drawn(c.draw);
+    for (const auto& [x, y, pixel] : c.pixels) expectPixel(picture, x, y, pixel, c.why, c.tolerance);
+}
+
+}  // namespace VEXA::CairoTesting

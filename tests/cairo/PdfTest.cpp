@@ -1,0 +1,236 @@
+#include <regex>
+
+#include "tests/cairo/CairoTesting.h"
+#include "vexa/support/core/Exception.h"
+
+namespace VEXA {
+namespace {
+
+using namespace CairoTesting;
+
+const Drawing kSquare = painted(solid(0xFF8000), nullptr, [](auto& c) { c.drawRectangle(20, 10, 40, 30, 0, 0); });
+
+Drawing written(const String& text, float x = 20, float y = 50, float size = 20) {
+    return [=](RenderContext& c) {
+        c.setFill(solid(0));
+        c.setFont(fontOf("sans-serif", size));
+        c.drawText(text, 1000, x, y, 0, 0);
+    };
+}
+
+std::string infoOf(const std::string& pdf) { return outputOf("pdfinfo INPUT", pdf); }
+std::string textOf(const std::string& pdf) { return outputOf("pdftotext INPUT -", pdf); }
+
+/// Nothing of what a reader of PDF complains about.
+void expectSound(const std::string& pdf) { outputOf("qpdf --check INPUT >/dev/null", pdf); }
+
+/// The value behind "Title:" and the like.
+std::string fact(const std::string& info, const std::string& name) {
+    std::smatch found;
+    return std::regex_search(info, found, std::regex("(^|\n)" + name + ": +([^\n]*)")) ? found[2].str() : "none";
+}
+
+TEST(Pdf, APxIsThreeQuartersOfAPoint) {
+    const std::string pdf = pdfOf(kSquare, {}, {400, 300});
+    expectSound(pdf);
+    EXPECT_EQ(fact(infoOf(pdf), "Page size"), "300 x 225 pts");
+    EXPECT_EQ(fact(infoOf(pdf), "Pages"), "1");
+    const Picture picture = renderedPdf(pdf);
+    expectPixel(picture, 20, 10, 0xFFFF8000, "the upper left corner");
+    expectPixel(picture, 59, 39, 0xFFFF8000, "the lower right one");
+    expectPixel(picture, 60, 40, 0xFFFFFFFF, "paper");
+    const Picture onBlue = renderedPdf(pdfOf(kSquare, {}, {400, 300}, {.background = colorOf(0x0000FF)}));
+    expectPixel(onBlue, 5, 5, 0xFF0000FF, "the background");
+    expectPixel(onBlue, 30, 30, 0xFFFF8000, "lies below");
+}
+
+TEST(Pdf, ReadersAreToldOfTheDocument) {
+    const std::string pdf = pdfOf(kSquare, {"Umsätze (2024) \\ ☂", "Two bars\nand a line", "de-CH"});
+    expectSound(pdf);
+    const std::string info = infoOf(pdf);
+    EXPECT_EQ(fact(info, "Title"), "Umsätze (2024) \\ ☂");
+    EXPECT_EQ(fact(info, "Subject").substr(0, 8), "Two bars");
+    EXPECT_EQ(fact(info, "CreationDate"), "none") << "the same bytes at all times";
+    const std::string asRead = outputOf("qpdf --qdf --object-streams=disable INPUT - | strings", pdf);
+    EXPECT_NE(asRead.find("/Lang (de-CH)"), std::string::npos);
+    EXPECT_NE(asRead.find("/DisplayDocTitle true"), std::string::npos);
+}
+
+TEST(Pdf, WhatIsNoLanguageIsLeftOut) {
+    const std::string pdf = pdfOf(kSquare, {"", "", "de) /OpenAction 5 0 R (x"});
+    expectSound(pdf);
+    EXPECT_EQ(pdf.find("OpenAction"), std::string::npos);
+    EXPECT_EQ(pdf.find("/Lang"), std::string::npos);
+}
+
+TEST(Pdf, TheSameBytesEachTime) {
+    const DocumentInfo info{"Title", "Text", "en"};
+    const auto draw = [](RenderContext& c) {
+        written("AVA \U0001F600 \u0645\u0631\u062D\u0628\u0627 \u56FE")(c);
+        painted(redToBlue(), pen(0, 2), [](auto& s) { s.drawEllipse(50, 100, 30, 20); })(c);
+    };
+    EXPECT_EQ(pdfOf(draw, info), pdfOf(draw, info));
+    EXPECT_EQ(pngOf(draw), pngOf(draw));
+}
+
+struct TextCase {
+    const char* why;
+    const char* text;
+    const char* extracted;
+};
+
+/// The text of all pages on one line. pdftotext puts words from right to left between U+202B and U+202C.
+std::string plainTextOf(const std::string& pdf) {
+    return std::regex_replace(std::regex_replace(textOf(pdf), std::regex("[ \f\n]+"), " "), std::regex("^ | $"), "");
+}
+
+TEST(PdfText, CanBeCopied) {
+    const TextCase cases[] = {
+        {"letters with kerning", "AVATAR Wave To.", "AVATAR Wave To."},
+        {"ligatures", "office fluffy", "office fluffy"},
+        {"accents, and one that combines", "Größe a\u0301b", "Größe a\u0301b"},
+        {"signs", "50 % (≤ 3 m²) \\ €", "50 % (≤ 3 m²) \\ €"},
+        {"Greek and Cyrillic", "Ελληνικά Кириллица", "Ελληνικά Кириллица"},
+        {"Chinese, Japanese, Korean", "中文图表 グラフ 한국어", "中文图表 グラフ 한국어"},
+        {"Arabic", "مرحبا بالعالم", "\u202Bمرحبا بالعالم\u202C"},
+        {"Hebrew", "שלום עולם", "\u202Bשלום עולם\u202C"},
+        {"Arabic and its numbers between Latin words, from left to right", "The new price السعر 250 ريال at the end",
+         "The new price \u202B ريال\u202C250 \u202B السعر\u202Cat the end"},
+        {"Indic letters that change places", "हिन्दी", "हिन्दी"},
+        {"emoji", "Sales 😀 are up", "Sales 😀 are up"},
+        {"emoji of several characters", "From 🇨🇭 to Rome", "From 🇨🇭 to Rome"},
+        {"control characters are blanks", "North\tand south", "North and south"},
+    };
+    for (const auto& [why, text, extracted] : cases) {
+        const std::string pdf = pdfOf(written(text));
+        expectSound(pdf);
+        EXPECT_EQ(plainTextOf(pdf), extracted) << why;
+    }
+}
+
+TEST(PdfText, EachEmojiHasItsOwnText) {
+    const std::string pdf = pdfOf(written("🎉 and ✅ and 😀 and 🎉"));
+    expectSound(pdf);
+    EXPECT_EQ(plainTextOf(pdf), "🎉 and ✅ and 😀 and 🎉");
+    const Picture picture = renderedPdf(pdf);
+    int colored = 0;
+    for (const std::uint32_t pixel : picture.pixels) colored += (pixel >> 16U & 0xFFU) > (pixel & 0xFFU) + 60 ? 1 : 0;
+    EXPECT_GT(colored, 200) << "the pictures are there";
+}
+
+TEST(PdfText, FontsAreEmbeddedInParts) {
+    const std::string pdf = pdfOf(written("Sales 图表"));
+    const std::string fonts = outputOf("pdffonts INPUT", pdf);
+    EXPECT_NE(fonts.find("+LiberationSans"), std::string::npos) << fonts;
+    EXPECT_NE(fonts.find("+NotoSansCJK"), std::string::npos) << fonts;
+    EXPECT_EQ(fonts.find("no  no"), std::string::npos) << fonts;
+    EXPECT_LT(pdf.size(), 100'000U) << "a font of Chinese alone has 16 MB";
+}
+
+TEST(PdfText, OfAnySize) {
+    for (const float size : {1e-6F, 0.01F, 0.05F, 0.5F, 3000.0F, 9999.0F, 1e9F}) {
+        const std::string pdf = pdfOf([size](RenderContext& c) {
+            written("Hg", 10, 100, size)(c);
+            c.addScaleTransform(1e-3F, 50);
+            written("Hg \U0001F600", 10, 1, size)(c);
+        });
+        expectSound(pdf);
+        EXPECT_EQ(renderedPdf(pdf).width, 400) << size;
+    }
+}
+
+/// Draws a document of one page that ends; with `fails` it breaks off in the middle.
+void drawPage(CairoSurface& surface, const Drawing& draw, SizeF size, bool fails = false) {
+    surface.beginDocument();
+    surface.beginPage(size);
+    draw(surface);
+    surface.restoreState({});
+    if (fails) return;
+    surface.endPage();
+    surface.endDocument();
+}
+
+TEST(PdfJoined, DocumentsBecomePages) {
+    const auto stream = make<IO::MemoryStream>();
+    const auto surface = CairoSurface::pdf(stream, {.background = {}, .joinsDocuments = true});
+    surface->setDocumentInfo({"", "", ""});
+    drawPage(*surface, written("first"), {400, 300});
+    surface->setDocumentInfo({"Second title", "", "fr"});
+    drawPage(*surface, written("broken"), {100, 100}, true);
+    drawPage(*surface, written("second"), {200, 100});
+    surface->setDocumentInfo({"Third title", "", "it"});
+    drawPage(*surface, written("third"), {300, 300});
+    drawPage(*surface, written("broken"), {100, 100}, true);
+    EXPECT_EQ(stream->bytes(), "") << "nothing before the end";
+    surface->finish();
+    const std::string pdf = stream->bytes();
+    expectSound(pdf);
+    const std::string info = outputOf("pdfinfo -f 1 -l 9 INPUT", pdf);
+    EXPECT_EQ(fact(info, "Pages"), "3");
+    EXPECT_EQ(fact(info, "Page +2 size"), "150 x 75 pts");
+    EXPECT_EQ(fact(info, "Title"), "Second title") << "of the first document that has one";
+    EXPECT_NE(pdf.find("/Lang (fr)"), std::string::npos);
+    std::string text = plainTextOf(pdf);
+    EXPECT_EQ(text, "first second third");
+}
+
+TEST(PdfJoined, ASecondFileStartsEmpty) {
+    const auto stream = make<IO::MemoryStream>();
+    const auto surface = CairoSurface::pdf(stream, {.background = {}, .joinsDocuments = true});
+    surface->finish();
+    EXPECT_EQ(stream->bytes(), "") << "without a page there is no file";
+    drawPage(*surface, written("one"), {400, 300});
+    surface->finish();
+    const std::size_t first = stream->bytes().size();
+    drawPage(*surface, written("one"), {400, 300});
+    surface->finish();
+    EXPECT_EQ(stream->bytes().substr(first), stream->bytes().substr(0, first));
+}
+
+TEST(PdfLimits, PageSize) {
+    const auto codeFor = [](SizeF page) {
+        try {
+            pdfOf(kSquare, {}, page);
+        } catch (const Exception& exception) {
+            return exception.getCode();
+        }
+        return 0;
+    };
+    EXPECT_EQ(codeFor({19'200, 10}), 0) << "200 inches";
+    EXPECT_EQ(codeFor({10, 19'201}), 35005);
+    for (const float side : {0.0F, -5.0F, kNaN, kInfinity}) EXPECT_EQ(codeFor({side, 10}), 35000);
+}
+
+/// Takes no bytes.
+class FullStream final : public IO::Stream {
+public:
+    std::size_t read(void*, std::size_t) override { return 0; }
+    void write(const void*, std::size_t) override { throw Exception(1004, {String("full"), String("no room")}); }
+    using Stream::write;
+};
+
+TEST(CairoSurface, AStreamThatFailsIsTold) {
+    for (const auto& surface : {CairoSurface::png(make<FullStream>()), CairoSurface::pdf(make<FullStream>())}) {
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            EXPECT_THROW(drawPage(*surface, kSquare, {100, 100}), Exception);
+        }
+    }
+}
+
+TEST(CairoSurface, ARenderThatBreaksOffWritesNothing) {
+    const auto stream = make<IO::MemoryStream>();
+    for (const auto& surface : {CairoSurface::png(stream), CairoSurface::pdf(stream)}) {
+        drawPage(*surface, written("broken"), {100, 100}, true);
+        EXPECT_EQ(stream->bytes(), "");
+    }
+    const auto png = CairoSurface::png(stream);
+    drawPage(*png, painted(solid(0xFF0000), nullptr, [](auto& c) { c.drawRectangle(0, 0, 90, 90, 0, 0); }), {50, 50},
+             true);
+    drawPage(*png, kSquare, {100, 100});
+    const Picture picture = readPng(stream->bytes());
+    EXPECT_EQ(picture.width, 100) << "the next document starts anew";
+    expectPixel(picture, 5, 5, 0, "without what was drawn before");
+}
+
+}  // namespace
+}  // namespace VEXA

@@ -1,0 +1,184 @@
+#include "vexa/surfaces/cairo/PngFile.h"
+
+#include "tests/cairo/CairoTesting.h"
+#include "vexa/support/core/Exception.h"
+
+namespace VEXA {
+namespace {
+
+using namespace CairoTesting;
+
+std::uint32_t numberAt(const std::string& bytes, std::size_t at) {
+    std::uint32_t number = 0;
+    for (std::size_t i = at; i < at + 4; ++i) number = number << 8U | static_cast<unsigned char>(bytes.at(i));
+    return number;
+}
+
+/// "IHDR(13) IDAT(100) IEND(0)"
+std::string chunksOf(const std::string& png) {
+    std::string chunks;
+    for (std::size_t at = 8; at < png.size();) {
+        const std::uint32_t size = numberAt(png, at);
+        chunks += (chunks.empty() ? "" : " ") + png.substr(at + 4, 4);
+        at += size + 12;
+    }
+    return chunks;
+}
+
+const Drawing kNothing = [](RenderContext&) {};
+const Drawing kFlood = painted(solid(0x123456), nullptr, [](auto& c) { c.drawRectangle(0, 0, 99, 99, 0, 0); });
+
+TEST(PngFile, Chunks) {
+    const std::string png = pngOf(kNothing);
+    EXPECT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1A\n");
+    EXPECT_EQ(chunksOf(png), "IHDR IDAT IEND");
+    EXPECT_EQ(numberAt(png, 16), 40U);
+    EXPECT_EQ(numberAt(png, 20), 30U);
+    EXPECT_EQ(png[25], 6) << "colours with alpha";
+    EXPECT_EQ(pngOf(kFlood)[25], 2) << "all is opaque";
+    EXPECT_EQ(pngOf(kNothing, {.background = colorOf(0xFFFFFF)})[25], 2);
+}
+
+TEST(PngFile, Resolution) {
+    struct Case {
+        float dpi;
+        std::uint32_t pixelsPerMetre;  ///< dpi / 0.0254, rounded
+    };
+    for (const auto& [dpi, expected] : {Case{96, 3780}, {72, 2835}, {300, 11811}, {0.02F, 1}}) {
+        const std::string png = pngOf(kNothing, {.dpi = dpi, .background = {}});
+        EXPECT_EQ(chunksOf(png), "IHDR pHYs IDAT IEND") << dpi;
+        const std::size_t data = png.find("pHYs") + 4;
+        EXPECT_EQ(numberAt(png, data), expected);
+        EXPECT_EQ(numberAt(png, data + 4), expected);
+        EXPECT_EQ(png[data + 8], 1) << "metres";
+        EXPECT_EQ(readPng(png).width, 40) << "the pixels stay as they are";
+    }
+    for (const float dpi : {0.0F, -96.0F, kNaN, kInfinity, 1e30F}) {
+        EXPECT_EQ(chunksOf(pngOf(kNothing, {.dpi = dpi, .background = {}})), "IHDR IDAT IEND") << dpi;
+    }
+}
+
+using Pattern = std::uint32_t (*)(int x, int y);
+
+std::uint32_t noise(int x, int y) {
+    auto hash = static_cast<std::uint32_t>(x) * 0x9E3779B1U ^ static_cast<std::uint32_t>(y) * 0x85EBCA77U;
+    hash = (hash ^ hash >> 15U) * 0xC2B2AE3DU;
+    return hash ^ hash >> 13U;
+}
+
+struct ImageCase {
+    const char* why;
+    int width;
+    int height;
+    Pattern pattern;  ///< colours not multiplied with alpha
+};
+
+const ImageCase kImages[] = {
+    {"one pixel", 1, 1, [](int, int) { return 0xFF102030U; }},
+    {"one colour: repetitions of any length", 997, 300, [](int, int) { return 0xFF102030U; }},
+    {"a column", 1, 5000, [](int, int y) { return 0xFF000000U | static_cast<std::uint32_t>(y / 7); }},
+    {"no pixel like another one: several blocks", 300, 300, [](int x, int y) { return noise(x, y) | 0xFF000000U; }},
+    {"few colours at random", 300, 300, [](int x, int y) { return 0xFF000000U | (noise(x, y) & 3U); }},
+    {"the row above is out of reach", 12'000, 4,
+     [](int x, int y) { return 0xFF000000U | (noise(x, y / 2) & 0x30303U); }},
+    {"the widest", 32'767, 3, [](int x, int) { return 0xFF000000U | static_cast<std::uint32_t>(x / 100); }},
+    {"what came some rows before comes again", 200, 200, [](int x, int y) { return noise(x, y % 5) | 0xFF000000U; }},
+    {"a slanted edge", 500, 500, [](int x, int y) { return x > y + y / 3 ? 0xFFFFFFFFU : 0xFF336699U; }},
+    {"stripes", 256, 64, [](int x, int) { return x % 2 == 0 ? 0xFFFFFFFFU : 0xFF000000U; }},
+    {"a gradient", 700, 70,
+     [](int x, int y) { return 0xFF000000U | static_cast<std::uint32_t>(x / 3 * 65536 + y * 3); }},
+    {"with alpha", 300, 200, [](int x, int y) { return x < 100 ? 0U : noise(x / 3, y / 2); }},
+    {"all transparent", 64, 64, [](int, int) { return 0U; }},
+    {"transparent, out of reach", 9000, 3, [](int x, int y) { return noise(x, y) & 0x03FFFFFFU; }},
+};
+
+std::uint32_t multiplied(std::uint32_t pixel) {
+    const std::uint32_t alpha = pixel >> 24U;
+    std::uint32_t result = alpha << 24U;
+    for (const unsigned shift : {0U, 8U, 16U}) result |= ((pixel >> shift & 0xFFU) * alpha + 127) / 255 << shift;
+    return result;
+}
+
+TEST(PngFile, HoldsThePixels) {
+    for (const ImageCase& c : kImages) {
+        const int stride = c.width + 3;
+        std::vector<std::uint32_t> pixels(static_cast<std::size_t>(stride * c.height), 0xDEADBEEFU);
+        for (int i = 0; i < c.width * c.height; ++i) {
+            const int x = i % c.width;
+            const int y = i / c.width;
+            pixels[static_cast<std::size_t>(y * stride + x)] = multiplied(c.pattern(x, y));
+        }
+        const Picture picture = readPng(encodePng({pixels.data(), c.width, c.height, stride}, 0));
+        ASSERT_EQ(picture.width, c.width) << c.why;
+        ASSERT_EQ(picture.height, c.height) << c.why;
+        int wrong = 0;
+        for (int i = 0; i < c.width * c.height; ++i) {
+            const int x = i % c.width;
+            const int y = i / c.width;
+            if (multiplied(picture.at(x, y)) != pixels[static_cast<std::size_t>(y * stride + x)]) ++wrong;
+        }
+        EXPECT_EQ(wrong, 0) << c.why;
+    }
+}
+
+TEST(PngFile, FlatPicturesAreSmall) {
+    std::vector<std::uint32_t> white(1'000'000, 0xFFFFFFFFU);
+    EXPECT_LT(encodePng({white.data(), 1000, 1000, 1000}, 0).size(), 20000U) << "3 MB of pixels";
+    EXPECT_LT(encodePng({white.data(), 10, 10, 10}, 0).size(), 120U);
+}
+
+int codeOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Exception& exception) {
+        return exception.getCode();
+    }
+    return 0;
+}
+
+TEST(PngLimits, RefusesBeforeItAllocates) {
+    struct Case {
+        const char* why;
+        SizeF page;
+        float scale;
+        int code;
+    };
+    const Case cases[] = {
+        {"the widest", {32'767, 1}, 1, 0},
+        {"a pixel wider", {32'768, 1}, 1, 35002},
+        {"too high at this scale", {10, 1000}, 40, 35002},
+        {"4 GB", {32'767, 32'767}, 1, 35002},
+        {"more than any integer", {1e30F, 1e30F}, 1e8F, 35002},
+        {"no width", {0, 10}, 1, 35000},
+        {"a negative height", {10, -1}, 1, 35000},
+        {"no number", {kNaN, 10}, 1, 35000},
+        {"infinite", {10, kInfinity}, 1, 35000},
+        {"no scale", {10, 10}, 0, 35001},
+        {"a negative scale", {10, 10}, -2, 35001},
+        {"a scale that is no number", {10, 10}, kNaN, 35001},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(codeOf([&] { pngOf(kNothing, {c.scale, 0, {}}, c.page); }), c.code) << c.why;
+    }
+}
+
+TEST(CairoSurface, PagesComeInOrder) {
+    const auto png = CairoSurface::png(make<IO::MemoryStream>());
+    EXPECT_THROW(png->endPage(), UnreacheableCodeException) << "none was begun";
+    EXPECT_THROW(png->drawLine(0, 0, 1, 1), UnreacheableCodeException);
+    EXPECT_THROW(png->drawText("a", 1, 0, 0, 0, 0), UnreacheableCodeException);
+    png->beginDocument();
+    EXPECT_THROW(png->endDocument(), UnreacheableCodeException) << "a PNG without a page";
+    png->beginPage({10, 10});
+    png->endPage();
+    EXPECT_THROW(png->drawLine(0, 0, 1, 1), UnreacheableCodeException) << "the page has ended";
+    EXPECT_THROW(png->beginPage({10, 10}), UnreacheableCodeException) << "a second page";
+    const auto pdf = CairoSurface::pdf(make<IO::MemoryStream>());
+    pdf->beginDocument();
+    EXPECT_THROW(pdf->endDocument(), UnreacheableCodeException) << "a PDF without a page";
+    pdf->beginPage({10, 10});
+    EXPECT_THROW(pdf->beginPage({10, 10}), UnreacheableCodeException) << "the last one has not ended";
+}
+
+}  // namespace
+}  // namespace VEXA

@@ -1,0 +1,146 @@
+#include <filesystem>
+#include <random>
+
+#include "tests/fonts/FontTestTools.h"
+#include "vexa/support/core/Exception.h"
+
+namespace VEXA::Testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char kArabic[] = "\u0645\u0628\u064A\u0639\u0627\u062A";
+
+FontReport reportFrom(const std::string& directory, const char* text, const char* families = "sans-serif") {
+    return describeFonts(*systemFontService({{directory}}), fontOf(families), text);
+}
+
+TEST(CallersFonts, ComeBeforeThoseOfTheMachine) {
+    const std::string directory = freshDirectory("before");
+    fs::create_directories(directory + "/deeper/still");
+    const std::string copy = directory + "/deeper/still/kufi.ttf";
+    fs::copy_file(fileOf("Noto Kufi Arabic"), copy);
+    const FontReport byCharacter = reportFrom(directory, kArabic);
+    ASSERT_EQ(byCharacter.runs.size(), 1U);
+    EXPECT_EQ(byCharacter.runs[0].file, copy);
+    EXPECT_EQ(byCharacter.face, "Liberation Sans") << "the default family stays built in";
+    EXPECT_EQ(reportFrom(directory, "", "noto kufi arabic").file, copy);
+    EXPECT_EQ(reportFrom(directory, "", "Noto Kufi Arabic, serif").file, copy);
+    EXPECT_EQ(reportFrom(directory, "", "Noto Serif").face, "Noto Serif") << "others are still found";
+    EXPECT_NE(reportOf(kArabic).runs[0].file, copy) << "other services do not know of it";
+}
+
+TEST(CallersFonts, OfSeveralDirectoriesTheFirstWins) {
+    const std::string first = freshDirectory("first");
+    const std::string second = freshDirectory("second");
+    fs::copy_file(fileOf("Noto Kufi Arabic"), first + "/a.ttf");
+    fs::copy_file(fileOf("Noto Naskh Arabic"), second + "/b.ttf");
+    const auto faceFrom = [](std::vector<std::string> directories) {
+        return describeFonts(*systemFontService({std::move(directories)}), fontOf("sans-serif"), kArabic).runs[0].face;
+    };
+    EXPECT_EQ(faceFrom({first, second}), "Noto Kufi Arabic");
+    EXPECT_EQ(faceFrom({second, first}), "Noto Naskh Arabic");
+    EXPECT_EQ(faceFrom({first, first + "/"}), "Noto Kufi Arabic") << "the same twice does no harm";
+}
+
+TEST(CallersFonts, OutliveTheService) {
+    const std::string directory = freshDirectory("outlive");
+    fs::copy_file(fileOf("Noto Kufi Arabic"), directory + "/a.ttf");
+    const auto program = systemFontService({{directory}})->getFont(fontOf("Noto Kufi Arabic"));
+    fs::remove_all(directory);
+    EXPECT_GT(program->measureString(kArabic), 0);
+    const ShapedText line = dynamic_cast<const ShapingFontProgram&>(*program).shape(kArabic);
+    EXPECT_EQ(line.runs[0].face->name(), "Noto Kufi Arabic");
+}
+
+int codeFor(const std::string& directory) {
+    try {
+        systemFontService({{directory}});
+    } catch (const Exception& exception) {
+        EXPECT_NE(std::string(exception.what()).find('"' + directory + '"'), std::string::npos) << exception.what();
+        return exception.getCode();
+    }
+    return 0;
+}
+
+TEST(CallersFonts, ADirectoryWithoutFontsIsAnError) {
+    const std::string directory = freshDirectory("without");
+    EXPECT_EQ(codeFor(directory), 34032);
+    writeFile(directory + "/notes.ttf", "This is no font.");
+    fs::create_directory_symlink(directory, directory + "/circle");
+    EXPECT_EQ(codeFor(directory), 34032);
+    EXPECT_EQ(codeFor(directory + "/notes.ttf"), 34030);
+    EXPECT_EQ(codeFor(directory + "/missing"), 34030);
+}
+
+/// Uses whatever is in the directory.
+void use(const std::string& directory) {
+    try {
+        const auto service = systemFontService({{directory}});
+        for (const char* family : {"sans-serif", "Noto Naskh Arabic", "Noto Color Emoji"}) {
+            describeFonts(*service, fontOf(family),
+                          "Ab \u0645\u064E\u0628\u0651\u064A\u0639 \U0001F600\U0001F1EB\U0001F1F7");
+        }
+    } catch (const Exception& exception) {
+        EXPECT_EQ(exception.getCode(), 34032) << exception.what();
+    }
+    FontManager::takeMissing();
+}
+
+TEST(CallersFonts, BrokenFilesAreHarmless) {
+    const std::string directory = freshDirectory("broken");
+    const std::string whole = bytesOf(fileOf("Noto Naskh Arabic"));
+    ASSERT_GT(whole.size(), 10'000U);
+    for (std::size_t cut = 0; cut < whole.size(); cut += cut < 600 ? 37 : whole.size() / 40) {
+        writeFile(directory + "/font.ttf", std::string_view(whole).substr(0, cut));
+        use(directory);
+    }
+    std::mt19937 random(11);
+    for (int i = 0; i < 100; ++i) {
+        std::string spoilt = whole;
+        for (int k = 0; k < 40; ++k)
+            spoilt[random() % (k % 2 == 0 ? 600 : spoilt.size())] = static_cast<char>(random());
+        writeFile(directory + "/font.ttf", spoilt);
+        use(directory);
+    }
+}
+
+// Past fontconfig, which refuses much of it: what a face does with spoilt tables.
+TEST(CallersFonts, SpoiltTablesAreHarmless) {
+    const std::string whole = bytesOf(fileOf("Noto Naskh Arabic"));
+    std::mt19937 random(13);
+    for (int i = 0; i < 300; ++i) {
+        std::string spoilt = whole.substr(0, i % 3 == 0 ? random() % whole.size() : whole.size());
+        for (int k = 0; k < 60; ++k) spoilt[random() % spoilt.size()] = static_cast<char>(random());
+        const auto* const begin = reinterpret_cast<const std::byte*>(spoilt.data());
+        const auto face = FontFace::open(make<FontData>(std::span(begin, spoilt.size())), 0, "spoilt");
+        if (face.isEmpty()) continue;
+        face->hasGlyph(U'\u0645');
+        EXPECT_GT(face->metrics().unitsPerEm, 0);
+        EXPECT_GE(face->metrics().ascent, 0);
+        EXPECT_GE(face->metrics().descent, 0);
+    }
+}
+
+TEST(CallersFonts, AFaceThatIsNotInTheFileIsNone) {
+    const auto open = [](std::string_view bytes, unsigned index) {
+        const auto* const begin = reinterpret_cast<const std::byte*>(bytes.data());
+        return FontFace::open(make<FontData>(std::span(begin, bytes.size())), index, "name");
+    };
+    const std::string whole = bytesOf(fileOf("Noto Kufi Arabic"));
+    EXPECT_FALSE(open(whole, 0).isEmpty());
+    EXPECT_TRUE(open(whole, 7).isEmpty());
+    EXPECT_TRUE(open("", 0).isEmpty());
+    EXPECT_TRUE(open("no font at all", 0).isEmpty());
+    for (const FileAccess access : {FileAccess::Map, FileAccess::Read}) {
+        EXPECT_TRUE(FontData::open("/nonexistent", access).isEmpty());
+        EXPECT_TRUE(FontData::open("/", access).isEmpty()) << "a directory";
+        EXPECT_TRUE(FontData::open("/dev/null", access).isEmpty()) << "an empty file";
+        const auto data = FontData::open(fileOf("Noto Kufi Arabic"), access);
+        ASSERT_FALSE(data.isEmpty());
+        EXPECT_EQ(data->bytes().size(), whole.size());
+    }
+}
+
+}  // namespace
+}  // namespace VEXA::Testing

@@ -1,0 +1,107 @@
+#include <cstdlib>
+
+#include "tests/fonts/FontTestTools.h"
+#include "vexa/support/core/DynamicLibrary.h"
+#include "vexa/support/core/Exception.h"
+
+// Machines with little on them. What is read of the machine stays for the life of a process, so each case runs in one
+// of its own.
+
+namespace VEXA::Testing {
+namespace {
+
+class Environment : public testing::Test {
+protected:
+    Environment() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+};
+
+constexpr char kSilence[] = "^$";
+
+/// Ends the process: with 0 if what was got is what was expected.
+template <class T>
+[[noreturn]] void endWith(const T& got, const T& expected) {
+    if (!(got == expected)) std::fprintf(stderr, "got %s\n", testing::PrintToString(got).c_str());
+    std::_Exit(got == expected ? 0 : 1);
+}
+
+void useConfiguration(const char* file) {
+    setenv("FONTCONFIG_FILE", file, 1);
+    setenv("FONTCONFIG_PATH", "/nonexistent", 1);
+    unsetenv("HOME");
+    unsetenv("XDG_CACHE_HOME");
+}
+
+std::string emptyConfiguration() {
+    const std::string file = freshDirectory("configuration") + "/fonts.conf";
+    writeFile(file, "<fontconfig/>");
+    return file;
+}
+
+/// What texts come to where there is no font but the built-in one.
+void measureAlone() {
+    const auto program = systemFontService()->getFont(fontOf("Noto Serif, Times New Roman, serif"));
+    const std::vector<int> widths = {program->measureString("A"), program->measureString("\u4E2D"),
+                                     program->measureString("e\u0303"), program->measureString("\u05D0")};
+    const int box = 1536;
+    std::vector<int> expected = {1366, box, 1139, reportOf("\u05D0").width > 0 ? widths[3] : 0};
+    if (FontManager::takeMissing() != U"\u4E2D") expected.clear();
+    endWith(widths, expected);
+}
+
+TEST_F(Environment, WithoutConfigurationTheBuiltInFontServes) {
+    EXPECT_EXIT((useConfiguration("/nonexistent/fonts.conf"), measureAlone()), testing::ExitedWithCode(0), kSilence);
+}
+
+TEST_F(Environment, WithoutFontsTheBuiltInFontServes) {
+    EXPECT_EXIT((useConfiguration(emptyConfiguration().c_str()), measureAlone()), testing::ExitedWithCode(0), kSilence);
+}
+
+TEST_F(Environment, AnEmptyConfigurationFileIsComplainedOfByFontconfigAlone) {
+    const std::string file = freshDirectory("empty") + "/fonts.conf";
+    writeFile(file, "");
+    EXPECT_EXIT((useConfiguration(file.c_str()), measureAlone()), testing::ExitedWithCode(0), "no element found");
+}
+
+TEST_F(Environment, CallersFontsNeedNoConfiguration) {
+    const std::string directory = freshDirectory("callers");
+    writeFile(directory + "/kufi.ttf", bytesOf(fileOf("Noto Kufi Arabic")));
+    const auto use = [&] {
+        useConfiguration("/nonexistent/fonts.conf");
+        const auto report = describeFonts(*systemFontService({{directory}}), fontOf("sans-serif"), "a\u0645");
+        endWith<std::string>(runsOf(report), "[a] Liberation Sans; [\u0645] Noto Kufi Arabic; ");
+    };
+    EXPECT_EXIT(use(), testing::ExitedWithCode(0), kSilence);
+}
+
+TEST_F(Environment, TheLocaleMakesNoDifference) {
+    const auto use = [] {
+        setenv("LC_ALL", "ja_JP.UTF-8", 1);
+        setenv("LANG", "ko_KR.UTF-8", 1);
+        setenv("FC_LANG", "ja", 1);
+        endWith<std::string>(runsOf(reportOf("\u6F22", "Nobody Has This")), "[\u6F22] Noto Sans CJK SC; ");
+    };
+    EXPECT_EXIT(use(), testing::ExitedWithCode(0), kSilence);
+}
+
+TEST(Libraries, OnesThatAreMissingAreNamedWithTheirPackages) {
+    const auto messageOf = [](auto load) {
+        try {
+            load();
+        } catch (const Exception& exception) {
+            return std::to_string(exception.getCode()) + ": " + exception.what();
+        }
+        return std::string("loaded");
+    };
+    const std::string missing = messageOf([] { DynamicLibrary("libnobody-has.so.7", "libnobody7"); });
+    EXPECT_EQ(missing.substr(0, 31), "1007: the library \"libnobody-ha");
+    EXPECT_NE(missing.find("package libnobody7"), std::string::npos) << missing;
+    const std::string old = messageOf([] { DynamicLibrary("libc.so.6", "libc6").find("nobody_has_this"); });
+    EXPECT_EQ(old,
+              "1008: the library \"libc.so.6\" has no function \"nobody_has_this\"; install a newer one (on Debian the "
+              "package libc6)");
+    EXPECT_TRUE(DynamicLibrary::isInstalled("libc.so.6"));
+    EXPECT_FALSE(DynamicLibrary::isInstalled("libnobody-has.so.7"));
+}
+
+}  // namespace
+}  // namespace VEXA::Testing

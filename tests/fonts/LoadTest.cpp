@@ -1,0 +1,91 @@
+#include <chrono>
+#include <cmath>
+#include <thread>
+
+#include "tests/fonts/FontTestTools.h"
+
+namespace VEXA::Testing {
+namespace {
+
+TEST(Threads, MeasureTheSame) {
+    const char* const texts[] = {"Total 2024",
+                                 "\u56FE\u8868",
+                                 "\u0645\u0628\u064A\u0639\u0627\u062A 12",
+                                 "\u05D0b\u05D1",
+                                 "\u0928\u092E\u0938\u094D\u0924\u0947",
+                                 "\U0001F600\U0001F1EB\U0001F1F7",
+                                 "\uE000",
+                                 "e\u0303"};
+    const char* const families[] = {"sans-serif", "serif", "Noto Serif, Arial", "Times New Roman", "Nobody Has This"};
+    const auto widths = [&](std::size_t start) {
+        std::vector<int> result(std::size(texts) * std::size(families) * 4);
+        for (std::size_t k = 0; k < result.size(); ++k) {
+            const std::size_t i = (k + start) % result.size();
+            const char* const family = families[i / 4 % std::size(families)];
+            const auto program = systemFontService()->getFont(fontOf(family, kStyles[i % 4]));
+            result[i] = program->measureString(texts[i / 4 / std::size(families)]);
+        }
+        FontManager::takeMissing();
+        return result;
+    };
+    std::vector<std::vector<int>> found(8);
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        threads.emplace_back([&, i] {
+            for (int round = 0; round < 20; ++round) found[i] = widths(i * 17);
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+    for (const auto& each : found) EXPECT_EQ(each, found[0]);
+    EXPECT_EQ(found[0], widths(0)) << "as one thread measures alone";
+}
+
+TEST(Threads, MakeADrawingFaceOnce) {
+    int made = 0;
+    const auto face = compiledFace({});
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 8; ++i) {
+        threads.emplace_back(
+            [&] { face->drawingFace([&]() -> std::shared_ptr<void> { return std::make_shared<int>(++made); }); });
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(made, 1);
+}
+
+std::u32string repeated(std::u32string_view piece, std::size_t length) {
+    std::u32string text;
+    while (text.size() < length) text += piece;
+    return text;
+}
+
+// Each of these would take minutes if its time grew with the square of its length.
+TEST(LongTexts, TakeTimeInProportionToTheirLength) {
+    constexpr std::size_t kLength = 100'000;
+    const std::u32string texts[] = {
+        repeated(U"a\u4E2D", kLength),
+        repeated(U"\u0645\u0628 ", kLength),
+        U"a" + repeated(U"\u0301", kLength),
+        U"\u0645" + repeated(U"\u064B", kLength),
+        U"\u0F40" + repeated(U"\u0F90", kLength),
+        repeated(U"\u200D", kLength),
+        repeated(U"\U0001F469\u200D", kLength),
+        repeated(U"\u0915\u094D", kLength),
+        repeated(U"a\u05D0", kLength),
+        U"\u05D0" + repeated(U"(", kLength) + repeated(U")", kLength),
+        repeated(U"\u202Ea", kLength),
+        repeated(U"\u2067a", kLength),
+        repeated(U" ", kLength) + U"\u4E2D",
+        repeated(U"\uE000\u0301", kLength),
+    };
+    const auto program = systemFontService()->getFont(fontOf("sans-serif"));
+    const auto begin = std::chrono::steady_clock::now();
+    for (const std::u32string& text : texts) {
+        EXPECT_GE(program->measureString(String(text)), 0);
+        EXPECT_EQ(std::llround(shaped(String(text)).advance), program->measureString(String(text)));
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60)) << "each takes about 0.1 s";
+    FontManager::takeMissing();
+}
+
+}  // namespace
+}  // namespace VEXA::Testing
