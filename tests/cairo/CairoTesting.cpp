@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <regex>
 
 /// The thread sanitizer does not see the atomic operations of libraries that were built without it.
 extern "C" const char* __tsan_default_suppressions() { return "called_from_lib:libcairo.so\n"; }
@@ -89,6 +90,21 @@ std::string outputOf(const std::string& command, const std::string& input) {
     }
     EXPECT_EQ(pclose(pipe), 0) << line;
     return output;
+}
+
+void expectSound(const std::string& pdf) { outputOf("qpdf --check INPUT >/dev/null", pdf); }
+
+std::string plainTextOf(const std::string& pdf) {
+    const std::string text = outputOf("pdftotext INPUT -", pdf);
+    return std::regex_replace(std::regex_replace(text, std::regex("[ \\f\n]+"), " "), std::regex("^ | $"), "");
+}
+
+Drawing written(const String& text, float x, float y, float size) {
+    return [=](RenderContext& c) {
+        c.setFill(solid(0));
+        c.setFont(fontOf("sans-serif", size));
+        c.drawText(text, 1000, x, y, 0, 0);
+    };
 }
 
 Picture renderedPdf(const std::string& pdf) { return readPng(outputOf("pdftoppm -r 96 -png -f 1 -l 1 INPUT", pdf)); }

@@ -36,8 +36,17 @@ Picture drawn(const Drawing& draw, const PngOptions& options = {}, SizeF page = 
 /// ends with an error.
 std::string outputOf(const std::string& command, const std::string& input);
 
+/// Nothing of what a reader of PDF complains about.
+void expectSound(const std::string& pdf);
+
+/// The text of all pages on one line. pdftotext puts words from right to left between U+202B and U+202C.
+std::string plainTextOf(const std::string& pdf);
+
 /// The picture that pdftoppm makes of the first page, in pixels of 1/96 inch.
 Picture renderedPdf(const std::string& pdf);
+
+/// A text in black.
+Drawing written(const String& text, float x = 20, float y = 50, float size = 20);
 
 /// Each component may be off by the tolerance; a pixel that does not show may have any colour.
 void expectPixel(const Picture& picture, int x, int y, std::uint32_t expected, const std::string& why,

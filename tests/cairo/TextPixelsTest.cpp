@@ -15,7 +15,7 @@ constexpr float kSize = 102.4F;
 SmartPtr<Font> liberation(float size) { return fontOf("sans-serif", size); }
 
 /// Draws on the line y = 80.
-Drawing written(const String& text, float x, float size = kSize, float spacing = 0) {
+Drawing lettered(const String& text, float x, float size = kSize, float spacing = 0) {
     return [=](RenderContext& c) {
         c.setFill(solid(0x102030));
         c.setFont(liberation(size));
@@ -36,7 +36,7 @@ TEST(TextPixels, GlyphsStandInTheirVeryPlaces) {
     constexpr int kLoose = 12;  // faint colours are kept with less than 8 bits
     const PixelCase cases[] = {
         {"edges",
-         written("I", 0),
+         lettered("I", 0),
          {{9, 40, covered(0.55)},
           {10, 40, kInk},
           {18, 40, kInk},
@@ -47,15 +47,15 @@ TEST(TextPixels, GlyphsStandInTheirVeryPlaces) {
           {14, 80, 0}},
          kLoose},
         {"a quarter of a pixel to the right",
-         written("I", 0.25F),
+         lettered("I", 0.25F),
          {{9, 40, covered(0.3)}, {10, 40, kInk}, {19, 40, covered(0.25)}, {20, 40, 0}},
          kLoose},
         {"the next letter",
-         written("II", 0),
+         lettered("II", 0),
          {{37, 40, covered(0.1)}, {38, 40, kInk}, {46, 40, kInk}, {48, 40, 0}},
          kLoose},
         {"with 10 px between them",
-         written("II", 0, kSize, 10),
+         lettered("II", 0, kSize, 10),
          {{10, 40, kInk}, {38, 40, 0}, {47, 40, covered(0.1)}, {48, 40, kInk}, {57, 40, covered(0.45)}},
          kLoose},
         {"only so many characters",
@@ -79,7 +79,7 @@ TEST(TextPixels, GlyphsStandInTheirVeryPlaces) {
          [](RenderContext& c) {
              c.addTranslateTransform(100, 0);
              c.addRotateTransform(90);
-             written("I", 0)(c);  // y from 9.55 to 80 becomes x from 20 to 90.45, x becomes y
+             lettered("I", 0)(c);  // y from 9.55 to 80 becomes x from 20 to 90.45, x becomes y
          },
          {{19, 14, 0}, {20, 14, kInk}, {90, 14, covered(0.45)}, {50, 9, covered(0.55)}, {50, 18, kInk}, {50, 19, 0}},
          kLoose},
@@ -115,20 +115,20 @@ TEST(TextPixels, GlyphsStandInTheirVeryPlaces) {
                      c.drawText("I", 1, 0, 80, 0, 0);
                  }),
          {{14, 40, 0}, {9, 40, 0}}},
-        {"without a place", written("I", kNaN), {{14, 40, 0}}},
+        {"without a place", lettered("I", kNaN), {{14, 40, 0}}},
     };
     for (const PixelCase& c : cases) expectText(c);
 }
 
 TEST(TextPixels, WhoMeasuresOtherwiseStillSeesLetters) {
     const auto before = FontManager::setService(fixedWidthFontService());
-    expectText({"a program without glyphs", written("I", 0), {{14, 40, kInk}, {30, 40, 0}}});
+    expectText({"a program without glyphs", lettered("I", 0), {{14, 40, kInk}, {30, 40, 0}}});
     FontManager::setService(before);
 }
 
 /// Letters of Arabic meet within a pixel, where each covers a part of it.
 TEST(TextPixels, JoinedLettersHaveNoSeams) {
-    const Picture picture = drawn(written("\u0640\u0640\u0640\u0640", 10.3F, 41.7F), {}, kPage);
+    const Picture picture = drawn(lettered("\u0640\u0640\u0640\u0640", 10.3F, 41.7F), {}, kPage);
     int fullRows = 0;
     for (int y = 0; y < picture.height; ++y) {
         int first = 0;
@@ -161,7 +161,7 @@ Inked inkOf(const Picture& picture) {
 }
 
 TEST(TextPixels, EmojiBringTheirColoursAndBoxesStandForWhatIsMissing) {
-    const Inked face = inkOf(drawn(written("\U0001F600", 10, 60), {}, kPage));
+    const Inked face = inkOf(drawn(lettered("\U0001F600", 10, 60), {}, kPage));
     EXPECT_GT(face.colored, 1000) << "a face of 60 px is mostly yellow";
     EXPECT_LT(face.pixels, 75 * 75) << "and no larger than its em and a quarter";
     const Drawing faint = painted(solid(0, 0.5F), nullptr, [](auto& c) {
@@ -169,8 +169,8 @@ TEST(TextPixels, EmojiBringTheirColoursAndBoxesStandForWhatIsMissing) {
         c.drawText("\U0001F600", 1, 10, 80, 0, 0);
     });
     EXPECT_NEAR(inkOf(drawn(faint, {}, kPage)).strongest, 128, 2) << "with the opacity of the fill";
-    EXPECT_GT(inkOf(drawn(written("\U000F0000", 10, 60), {}, kPage)).pixels, 50) << "a box";
-    EXPECT_EQ(inkOf(drawn(written(" \u2003", 10, 60), {}, kPage)).pixels, 0);
+    EXPECT_GT(inkOf(drawn(lettered("\U000F0000", 10, 60), {}, kPage)).pixels, 50) << "a box";
+    EXPECT_EQ(inkOf(drawn(lettered(" \u2003", 10, 60), {}, kPage)).pixels, 0);
 }
 
 /// The shape of a text does not depend on how it is drawn: as a mask, or above 512 px as a path.

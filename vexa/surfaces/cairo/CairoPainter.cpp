@@ -28,7 +28,7 @@ void CairoPainter::drop() noexcept {
 }
 
 void CairoPainter::requirePage() const {
-    if (context_ != nullptr) return;
+    if (hasPage()) return;
     raise(UnreacheableCodeException("drawing outside a page; begin one first"), "CairoSurface", __LINE__);
 }
 

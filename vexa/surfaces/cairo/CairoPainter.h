@@ -19,6 +19,7 @@ public:
     void end();
     /// Forgets the page.
     void drop() noexcept;
+    bool hasPage() const noexcept { return context_ != nullptr; }
     /// Throws UnreacheableCodeException without a page.
     void requirePage() const;
 

@@ -34,7 +34,10 @@ void CairoSurface::beginDocument() {
     body_->pages->beginDocument();
 }
 
-void CairoSurface::endDocument() { body_->pages->endDocument(documentInfo(), *body_->stream); }
+void CairoSurface::endDocument() {
+    if (body_->painter.hasPage()) endPage();
+    body_->pages->endDocument(documentInfo(), *body_->stream);
+}
 
 void CairoSurface::beginPage(const SizeF& size) { body_->painter.begin(body_->pages->beginPage(size)); }
 
@@ -67,6 +70,9 @@ void CairoSurface::drawText(const String& text, int length, float x, float y, fl
     body_->painter.text(state(), shown < text.length() ? text.subString(0, shown) : text, {x, y}, spacing);
 }
 
-void CairoSurface::finish() { body_->pages->finish(*body_->stream); }
+void CairoSurface::finish() {
+    body_->painter.drop();
+    body_->pages->finish(*body_->stream);
+}
 
 }  // namespace VEXA
