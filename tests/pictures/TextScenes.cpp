@@ -112,7 +112,7 @@ std::vector<Scene> textScenes() {
         {"kerning", plain("AVATAR To."), 1, inFont(inStyle(20), said("AVATAR To.", 8, 32, 0.3F)), {150, 50}},
         {"ligatures", spaced(0), 1, spaced(0.5F), kPage},
         {"spaced letters have none", spaced(2), 1, spaced(2.3F), kPage},
-        {"letters pulled together", spaced(-0.5F), 1, spaced(-0.8F), kPage},
+        {"letters pulled together", spaced(-0.25F), 1, spaced(-0.5F), kPage},
         {"blanks", plain(" a  b\tc", 4), 1, plain("a b c", 4), kPage},
         {"marks that combine", plain("re\u0301sume\u0301"), 1, plain("resumé"), kPage},
         {"Greek", plain("Σύνολο"), 1, plain("Σύναλο"), kPage},

@@ -21,7 +21,7 @@ struct FontStack {
 /// Safe from several threads.
 class FaceFinder {
 public:
-    /// Throws Exception 34030, 34032 or 1007 where a directory gives no fonts.
+    /// Throws Exception 34030, 34032, 34034 or 1007 where a directory gives no fonts.
     explicit FaceFinder(const std::vector<std::string>& directories);
 
     FontStack findFamilies(const String& families, FontStyleRequest style) const;

@@ -1,5 +1,7 @@
 #include "vexa/fonts/FaceStore.h"
 
+#include "vexa/fonts/FontTables.h"
+
 namespace VEXA {
 
 namespace {
@@ -27,6 +29,7 @@ FontFace* FaceStore::open(const FcPattern& font) {
 const SmartPtr<FontData>& FaceStore::dataOf(const std::string& file) {
     const auto [entry, isNew] = data_.try_emplace(file);
     if (isNew) entry->second = FontData::open(file, access_);
+    if (isNew && entry->second && isCutOff(entry->second->bytes())) entry->second = nullptr;
     return entry->second;
 }
 

@@ -19,7 +19,7 @@ public:
     /// Made when first asked for, kept for good; null where fontconfig is not installed.
     static FontCatalog* ofMachine();
     /// Reads the fonts of a directory and of all below it. Throws Exception 34030 when it cannot be read, 34032 when it
-    /// holds no font, 1007 without fontconfig.
+    /// holds no font, 34034 when one is cut off, 1007 without fontconfig.
     explicit FontCatalog(const std::string& directory);
 
     /// The face of a family, or of the one that stands for it by the machine's rules (Liberation Serif for Times New

@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <set>
 
+#include "vexa/fonts/FontFace.h"
 #include "vexa/fonts/FontPatterns.h"
+#include "vexa/fonts/FontTables.h"
 #include "vexa/support/core/Exception.h"
 #include "vexa/support/core/FileDescriptor.h"
 #include "vexa/support/core/QuotedText.h"
@@ -18,6 +20,7 @@ namespace fs = std::filesystem;
 constexpr char kSource[] = "FontDirectory";
 constexpr int kUnreadable = 34030;
 constexpr int kNoFont = 34032;
+constexpr int kCutOff = 34034;
 
 /// The regular files of the directory and of those below it, in the order of their names; links to directories are not
 /// followed, since they may lead in circles.
@@ -34,6 +37,12 @@ std::set<std::string> filesBelow(const std::string& directory) {
     return files;
 }
 
+/// Left out in silence, it would be another font that draws.
+void requireWhole(const std::string& file) {
+    const auto data = FontData::open(file, FileAccess::Map);
+    if (data && isCutOff(data->bytes())) raise(Exception(kCutOff, {escapeForMessage(file)}), kSource, __LINE__);
+}
+
 bool hasUsableFont(FcConfig& configuration) {
     const FcFontSet* const fonts = fontconfig().ConfigGetFonts(&configuration, FcSetApplication);
     if (fonts == nullptr) return false;
@@ -48,6 +57,7 @@ FontconfigPtr<FcConfig> configurationOf(const std::string& directory) {
     FontconfigPtr<FcConfig> configuration(fc.ConfigCreate());
     // One by one, since for a whole directory fontconfig wants to write a cache, and complains where it cannot.
     for (const std::string& file : filesBelow(directory)) {
+        requireWhole(file);
         fc.ConfigAppFontAddFile(configuration.get(), reinterpret_cast<const FcChar8*>(file.c_str()));
     }
     if (!hasUsableFont(*configuration)) raise(Exception(kNoFont, {escapeForMessage(directory)}), kSource, __LINE__);

@@ -30,7 +30,7 @@ struct SystemFontOptions {
 /// The fonts of the machine. `sans-serif`, Liberation Sans, Arial and Helvetica are Liberation Sans, compiled in: for
 /// its own characters nothing is opened. Other families, and characters that the family lacks, are looked for through
 /// fontconfig when first met. Every program it gives is a ShapingFontProgram. Safe from several threads.
-/// Throws Exception when a directory cannot be read.
+/// Throws Exception when a directory cannot be read, holds no font or one that is cut off.
 std::shared_ptr<FontService> systemFontService(SystemFontOptions options = {});
 
 }  // namespace VEXA

@@ -87,14 +87,14 @@ constexpr Message kMessages[] = {
     {34033,
      "no font has {0}, they are measured and drawn as boxes; install fonts that have them, or name their directory "
      "with --font-dir"},
+    {34034, R"(the font file "{0}" is cut off: it ends before its tables do; copy it again, or take it away)"},
 
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
     {35001, R"(a picture cannot be drawn at a scale of {0}; take one above 0)"},
     {35002,
      "a picture of {0} by {1} pixels is too large, it has at most {2} pixels a side and 1 GiB of memory; take a "
-     "smaller "
-     "scale or a smaller chart, or write a PDF"},
+     "smaller scale or a smaller chart, or write an SVG"},
     {35003, R"(the drawing library cairo failed: {0})"},
     {35004, R"(the font "{0}" was measured but cannot be drawn with; take another font)"},
     {35005, "a page of {0} by {1} px is too large for a PDF, which has at most {2} px a side; make the chart smaller"},

@@ -33,12 +33,12 @@ void appendToSink(png_structp png, png_bytep data, std::size_t size) {
     if (!appended) pngLibrary().error(png, "there is not enough memory");
 }
 
-[[noreturn]] void fail(png_structp png, const char* message) {
+void fail(png_structp png, const char* message) {
     try {
         static_cast<Sink*>(pngLibrary().get_error_ptr(png))->message = message;
     } catch (const std::bad_alloc&) {  // the failure itself is told all the same
     }
-    std::longjmp(*pngLibrary().set_longjmp_fn(png, &std::longjmp, sizeof(std::jmp_buf)), 1);
+    pngLibrary().longjmp(png, 1);
 }
 
 void ignoreWarning(png_structp, const char*) {}

@@ -7,8 +7,8 @@ namespace VEXA {
 // clang-format off
 #define VEXA_PNG_FUNCTIONS(X) \
     X(create_info_struct) X(create_write_struct) X(destroy_write_struct) X(error) X(get_error_ptr) X(get_io_ptr) \
-    X(set_IHDR) X(set_compression_level) X(set_filter) X(set_longjmp_fn) X(set_pHYs) X(set_write_fn) X(write_end) \
-    X(write_info) X(write_row)
+    X(longjmp) X(set_IHDR) X(set_compression_level) X(set_filter) X(set_longjmp_fn) X(set_pHYs) X(set_write_fn) \
+    X(write_end) X(write_info) X(write_row)
 // clang-format on
 
 /// The functions of libpng that pictures are written with, under their names without `png_`.
