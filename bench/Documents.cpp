@@ -34,4 +34,16 @@ std::string radarChart(int axes, int series) {
     return text + "</spider></root>\n";
 }
 
+std::string pieChart(int slices, bool showsCaptions) {
+    std::string text =
+        "<root xmlns=\"http://vexa-charts.org/2008/vx\"><pie start-angle=\"270\" show-connectors=\"true\" "
+        "show-captions=\"" +
+        std::string(showsCaptions ? "true" : "false") + "\">\n";
+    for (int s = 0; s < slices; ++s) {
+        text +=
+            "<slice value=\"" + std::to_string(1 + s * 37 % 100) + "\" caption=\"Part " + std::to_string(s) + "\"/>\n";
+    }
+    return text + "</pie></root>\n";
+}
+
 }  // namespace VEXA::Bench

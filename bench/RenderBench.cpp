@@ -59,6 +59,12 @@ void registerRenderBenchmarks() {
     registerDocument("radar 12 x 100", radarChart(12, 100));
     registerDocument("radar 1000 x 10", radarChart(1000, 10));
     registerDocument("radar 2000 x 10", radarChart(2000, 10));
+    registerDocument("pie of 6", pieChart(6, true));
+    for (const bool showsCaptions : {true, false}) {
+        const std::string kind = showsCaptions ? "" : ", no captions";
+        registerDocument("pie of 1000" + kind, pieChart(1000, showsCaptions));
+        registerDocument("pie of 2000" + kind, pieChart(2000, showsCaptions));
+    }
 }
 
 }  // namespace VEXA::Bench

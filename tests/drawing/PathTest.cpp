@@ -31,6 +31,8 @@ TEST(Path, KeepsTheVerbsInTheOrderOfTheCalls) {
     const auto line = make<Path>();
     line->lineTo({1, 2}).lineTo({3, 4});
     EXPECT_EQ(textOf(*line), "M1,2 L3,4") << "a line that comes first starts where it ends";
+    line->append(*PathCommand::polygon({{5, 6}, {7, 8}}, true));
+    EXPECT_EQ(textOf(*line), "M1,2 L3,4 M5,6 L7,8 Z") << "another outline behind it";
     const auto curve = make<Path>();
     curve->curveTo({1, 2}, {3, 4}, {5, 6});
     EXPECT_EQ(textOf(*curve), "M1,2 C1,2 3,4 5,6") << "a curve that comes first starts at its first handle";

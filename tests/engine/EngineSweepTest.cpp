@@ -5,7 +5,7 @@
 namespace VEXA::Testing {
 namespace {
 
-/// A radar chart that gives nearly every attribute it may have, in one line.
+/// A radar chart, a doughnut and a legend that give nearly every attribute they may have, in one line.
 const std::string kChart =
     R"x(<vx:root xmlns:vx="http://vexa-charts.org/2008/vx" x="1" y="2" width="90%" height="300" viewBox="0 0 90 60" )x"
     R"x(theme="red-flat" fill="url(#g)" font-size="10%"><vx:title x="1" y="2" width="30%" height="9" value="A b c" )x"
@@ -13,10 +13,16 @@ const std::string kChart =
     R"x(web-stroke-opacity="50%" web-stroke-width="2pt" web-stroke-miterlimit="3" web-stroke-dasharray="3 1" )x"
     R"x(web-stroke-dashoffset="1"><vx:spider-axis id="a" min="-5" max="50" caption="A" caption-offset="3" )x"
     R"x(stroke="red"/><vx:spider-axis id="b" min="1" max="9"/><vx:spider-serie stroke-width="3" fill="none" )x"
-    R"x(opacity="0.5"><vx:spider-data-point axis-id="a" value="7"/></vx:spider-serie></vx:spider><vx:defs>)x"
+    R"x(opacity="0.5"><vx:spider-data-point axis-id="a" value="7"/></vx:spider-serie></vx:spider>)x"
+    R"x(<vx:pie x="2" y="3" width="70" height="50%" start-angle="30" slice-orientation="counter-clockwise" )x"
+    R"x(pie-shape="doughnut" show-connectors="true" connectors-color="#888" caption-size="9%" aspect-3d-view="true" )x"
+    R"x(aspect-3d-chart-depth="5" aspect-3d-shading="0.5" labels-position="overflow"><vx:slice value="3" caption="A b" )x"
+    R"x(caption-offset="2" stroke="red"/><vx:slice value="-1" caption="C" caption-placement="center"/></vx:pie><vx:defs>)x"
     R"x(<vx:linear-gradient id="g" x1="0" y1="1" x2="2" y2="3" gradientTransform="rotate(4)"><vx:stop offset="5%" )x"
     R"x(stop-color="red" stop-opacity="0.5"/></vx:linear-gradient><vx:radial-gradient id="h" href="#g" cx="1" r="2"/>)x"
-    R"x(</vx:defs></vx:root>)x";
+    R"x(</vx:defs><vx:legend legend-placement="bottom" orientation="rotate90" padding="2" width="20%" height="9" )x"
+    R"x(stroke-width="2"><vx:legend-item label="dash" label-width="3" label-spacing="1" caption="A b"/></vx:legend>)x"
+    R"x(</vx:root>)x";
 
 TEST(EngineSweep, ADocumentCutAnywhereIsRefused) {
     const CapturedLog log;

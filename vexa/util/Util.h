@@ -3,10 +3,11 @@
 #include "vexa/support/core/Vector.h"
 #include "vexa/support/drawing/Matrix.h"
 #include "vexa/support/values/Transform.h"
+#include "vexa/util/ArcData.h"
 
 namespace VEXA {
 
-/// Arithmetic of scales and transforms. Nothing here throws, and every loop ends for every input.
+/// Arithmetic of scales, transforms and arcs. Nothing here throws, and every loop ends for every input.
 class Util {
 public:
     Util() = delete;
@@ -35,6 +36,22 @@ public:
 
     /// Multiplies the transforms into the matrix in their order, as SVG does; an unknown kind changes nothing.
     static void addTransformationList(Matrix& matrix, const Vector<Transform>& transforms);
+
+    static double toDegrees(double radians);
+    /// A negative angle is turned on by 360 degrees first, once: -90 means 270, -400 means -40.
+    static double toRadians(double degrees);
+
+    /// The point of an ellipse at `angle` radians, which grow counter-clockwise on the screen from the positive x axis.
+    static PointF getArcEndPoint(const PointF& centre, float rx, float ry, double angle);
+
+    /// The centre form of an arc of SVG's path data: from one point to another over an ellipse turned by `rotation`
+    /// degrees. Radii too small to reach are scaled up together. The result does not carry the rotation: with one
+    /// other than 0 its box is that of the ellipse before the turn, and its angles count from the turned axis. Finite
+    /// for finite arguments; an arc without a radius, or whose ends are the same, is its first point.
+    static ArcData convertArc(const PointF& from, const PointF& to, float rx, float ry, double rotation, bool largeArc,
+                              bool sweep);
+    /// The curves of BezierArc, four points for each: its start, both handles and its end.
+    static Vector<PointF> getBezierArcPoints(const ArcData& arc);
 };
 
 }  // namespace VEXA

@@ -89,6 +89,24 @@ constexpr Message kMessages[] = {
      "with --font-dir"},
     {34034, R"(the font file "{0}" is cut off: it ends before its tables do; copy it again, or take it away)"},
 
+    {34040, "the values of the pie's slices add up to nothing, only its background is drawn; give a slice a value"},
+    {34041,
+     R"(a pie of {0} by {1} px cannot be drawn, only its background is; give it a larger "width" and "height" or )"
+     R"(less depth)"},
+    {34042,
+     R"(the pie is too small for its captions ({0} by {1} px), it is drawn without them; give it a larger area, or )"
+     R"(write a smaller "caption-size")"},
+    {34043, R"(a "start-angle" of {0} degrees is beyond what can be drawn rightly; write one from -360 to 360)"},
+    {34044,
+     R"({0} captions of the pie have no room in its area and are left out; give it more width, shorten them, or write )"
+     R"(labels-position="overflow")"},
+    {34050,
+     "the legend has no room for {0} of its captions, they are left out; give it more \"width\", or \"height\" where "
+     "it is turned"},
+    {34051,
+     "the legend shows nothing of {0} of its items, they lie outside its box or the page; give it more \"width\" or "
+     "\"height\""},
+
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
     {35001, R"(a picture cannot be drawn at a scale of {0}; take one above 0)"},

@@ -27,6 +27,12 @@ Path& Path::close() {
     return *this;
 }
 
+Path& Path::append(const Path& other) {
+    verbs_.insert(verbs_.end(), other.verbs_.begin(), other.verbs_.end());
+    points_.insert(points_.end(), other.points_.begin(), other.points_.end());
+    return *this;
+}
+
 void Path::reserve(std::size_t verbs, std::size_t points) {
     verbs_.reserve(verbs);
     points_.reserve(points);

@@ -16,6 +16,8 @@ public:
     Path& lineTo(PointF to);
     Path& curveTo(PointF control1, PointF control2, PointF to);
     Path& close();
+    /// Adds all of another path behind this one.
+    Path& append(const Path& other);
     void reserve(std::size_t verbs, std::size_t points);
 
     /// One point for MoveTo and LineTo, three for CurveTo, none for Close, in the order of the verbs.
