@@ -89,6 +89,7 @@ TEST(LegendLayout, CountsItemsThatShowNothingOfThemselves) {
         {box, kUpright, {5, 50, 40, 12}, true, "below the box"},
         {box, kUpright, {-40, 5, 40, 12}, true, "to the left of it"},
         {box, kUpright, {0, 0, 0, 0}, false, "an item without extent at its corner"},
+        {{10, 10, 100, 0}, kUpright, {5, -6, 40, 12}, true, "a box without height shows nothing"},
         {box, kTurned90, {5, 60, 40, 12}, false, "a turned box is 50 wide and 100 high to its content"},
         {box, kTurned90, {50, 5, 40, 12}, true, "not wider"},
         {box, kTurned270, {5, 99, 40, 12}, false, "turned the other way likewise"},
@@ -105,7 +106,12 @@ TEST(LegendLayout, CountsItemsThatShowNothingOfThemselves) {
     };
     for (const auto& c : cases) {
         const std::vector<RectF> items(3, c.item);
-        EXPECT_EQ(countHiddenItems(items, c.orientation, c.area, {400, 300}), c.isHidden ? 3U : 0U) << c.why;
+        EXPECT_EQ(countHiddenItems(items, c.orientation, c.area, {0, 0, 400, 300}), c.isHidden ? 3U : 0U) << c.why;
+        RectF moved = c.area;
+        moved.x += 50;
+        moved.y -= 70;
+        EXPECT_EQ(countHiddenItems(items, c.orientation, moved, {50, -70, 400, 300}), c.isHidden ? 3U : 0U)
+            << c.why << ", on a page whose content begins elsewhere";
     }
 }
 

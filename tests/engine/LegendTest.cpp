@@ -196,6 +196,9 @@ TEST(Legend, TellsOfWhatDoesNotShow) {
     EXPECT_EQ(warningsOf(kFree + "width='14'", item("") + item(" ")), "") << "nor is any needed";
     EXPECT_EQ(warningsOf("legend-placement='free' width='60' height='24'", kThree), "34051") << "the third is cut off";
     EXPECT_EQ(warningsOf("legend-placement='free' width='60' height='25'", kThree), "") << "a part of it shows";
+    const std::string bottom = "legend-placement='bottom' height='";
+    EXPECT_EQ(warningsOf(bottom + "500'", kThree), "") << "200 px are above the page, the row in its middle is on it";
+    EXPECT_EQ(warningsOf("legend-placement='top' height='900'", kThree), "34051") << "here the row is below the page";
     std::string many;
     for (int i = 0; i < 27; ++i) many += item("Many");
     const CapturedLog log;
@@ -203,6 +206,25 @@ TEST(Legend, TellsOfWhatDoesNotShow) {
     ASSERT_EQ(log.codes(), "34051") << "324 px in the middle of 300: an item's height at each end";
     EXPECT_TRUE(log.records[0].place.isKnown());
     EXPECT_NE(log.records[0].message.find("2 of its items"), String::npos);
+}
+
+TEST(Legend, ThePageIsWhatTheViewBoxShows) {
+    const WithFonts fonts;
+    const struct {
+        const char *viewBox, *x, *codes, *why;
+    } cases[] = {
+        {"-100 0 400 300", "420", "", "420 px less 100 are on the page"},
+        {"-100 0 400 300", "10", "34051", "the content begins 100 px to the left of the page"},
+        {"100 0 400 300", "320", "34051", "320 px and 100 are not"},
+        {"100 0 400 300", "-80", "", "but -80 and 100 are"},
+    };
+    for (const auto& c : cases) {
+        const CapturedLog log;
+        const std::string root = "width='800' height='600' theme='none' viewBox='" + std::string(c.viewBox) + "'";
+        const std::string legend = "<legend legend-placement='free' width='60' height='20' x='" + std::string(c.x);
+        draw(rootWith(root, legend + "'>" + item("One") + "</legend>"));
+        EXPECT_EQ(log.codes(), c.codes) << c.why;
+    }
 }
 
 /// "fill/stroke " of each marker beside a chart with two series.
@@ -290,7 +312,7 @@ TEST(LegendItem, AnswersAndDrawsAlone) {
     EXPECT_EQ(alone->getItemRect(), (RectF{20, 30, 46, 24})) << "what the layout answered";
     alone->setMaxWidth(10);
     EXPECT_EQ(alone->layout(context), (RectF{0, 0, 0, 6})) << "no room for a caption: the marker alone";
-    EXPECT_TRUE(alone->isCaptionLost());
+    EXPECT_TRUE(alone->isCaptionCut());
 }
 
 /// Bold characters are twice as wide as the 6 px of others, at 10 px. Counts the characters that it is asked for.

@@ -227,7 +227,9 @@ TEST(PieChart, CaptionsThatDoNotFitAreHidden) {
         {kOverflow + "caption-wrap='false'", slice("1", "A") + slice("1", wide), "A" + wide, "", "as it may be there"},
         {"caption-wrap='false'", slice("1", wide) + slice("1", "A") + slice("98", "C"), "AC", "34044",
          "what is beyond the area hides nothing"},
-        {kOverflow + "caption-size='5'", slice("1", "A") + slice("1"), "", "34044", "no line has room for a character"},
+        {"caption-wrap='false'", slice("1", "A") + slice("1", std::string(30, ' ')), "A", "", "blanks are not missed"},
+        {kOverflow + "caption-size='5'", slice("1", "A") + slice("1"), "", "34045", "no line has room for a character"},
+        {"caption-size='0'", slice("1", "A") + slice("1", " "), "", "34045", "nor is there a line"},
     };
     for (const auto& c : cases) {
         const CapturedLog log;
@@ -260,6 +262,7 @@ struct PlaceSurface final : RenderContext {
 
 TEST(PieChart, ATreeMayBeRenderedAgain) {
     const WithFonts fonts;
+    const CapturedLog log;
     const auto root =
         load(pieWith("show-connectors='true' x='10' width='200' caption-size='25%'",
                      slice("1", "Wind 40.2%") + slice("1", "B") + slice("98", "Hydro 3%"), "width='220' height='200'"));
@@ -271,6 +274,7 @@ TEST(PieChart, ATreeMayBeRenderedAgain) {
     const auto first = render();
     const auto second = render();
     EXPECT_EQ(first->calls, second->calls) << "fitted once, hidden captions stay hidden";
+    EXPECT_EQ(log.codes(), "34044") << "Hydro takes 48 + 4 + 7 px where 54 are; told once";
     EXPECT_EQ(first->clips, 2U) << "the root's clip and what was the area";
     EXPECT_EQ(second->clips, 1U);
     const auto& pie = static_cast<VexaPie&>(*root->getBodies()[0]);

@@ -81,6 +81,29 @@ TEST(TextWrapper, BreaksBetweenWordsAndSplitsWhatIsTooLong) {
     for (const auto& c : cases) EXPECT_EQ(wrapped(c.text, c.characters, c.mode), c.lines) << c.why;
 }
 
+TEST(TextWrapper, TellsWhetherCharactersAreLeftOut) {
+    const WithFonts fonts(std::make_shared<CountingFonts>());
+    const struct {
+        const char* text;
+        float characters;
+        bool isCut;
+        const char* why;
+    } cases[] = {
+        {"aaaa W bb", 4, true, "all from W on"},
+        {"aa W bb", 4, true, "all of it"},
+        {"ab", 0, true, "no room"},
+        {" \t", 0, false, "but none is needed"},
+        {"     ", 4, false, "nor for more of it than a line takes"},
+        {"abcdef gh", 4, false, "a split word is whole"},
+        {"W", 10, false, "exactly a line"},
+    };
+    for (const auto& c : cases) {
+        Caption caption(c.text, c.characters, kSplit);
+        caption.wrapper.wrap();
+        EXPECT_EQ(caption.wrapper.isCut(), c.isCut) << c.why;
+    }
+}
+
 TEST(TextWrapper, LinesAreMeasuredAsTheyStand) {
     const WithFonts fonts;
     Caption caption("one two three", 8, kSplit);

@@ -11,6 +11,7 @@ LegendCaption wrapLegendCaption(const String& text, VexaRenderContext& context, 
     const Vector<String>& lines = wrapper.wrap();
     const float gap = context.getTextDescent();
     LegendCaption caption;
+    caption.isCut = wrapper.isCut();
     caption.lines.reserve(lines.size());
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const SizeF& line = wrapper.getLineSizes()[i];

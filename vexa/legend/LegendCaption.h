@@ -13,6 +13,7 @@ struct LegendCaption {
     Vector<Line> lines;
     /// The widest line; the height of all lines, each with the font's descent as a gap below it. In px.
     SizeF size;
+    bool isCut = false;  ///< VexaTextWrapper::isCut
 };
 
 /// Breaks a text into lines no wider than `maxWidth` px, in the font that is current on the surface; words that are

@@ -41,9 +41,9 @@ struct Edges {
 };
 
 /// The part of an area that the page shows, from the area's own corner on.
-Edges shownPart(const RectF& area, const SizeF& page) noexcept {
-    return {std::max(0.0F, -area.x), std::max(0.0F, -area.y), std::min(area.width, page.width - area.x),
-            std::min(area.height, page.height - area.y)};
+Edges shownPart(const RectF& area, const RectF& page) noexcept {
+    return {std::max(0.0F, page.x - area.x), std::max(0.0F, page.y - area.y),
+            std::min(area.width, rightOf(page) - area.x), std::min(area.height, bottomOf(page) - area.y)};
 }
 
 /// A part of the box as its content sees it, which is turned with respect to the box.
@@ -63,9 +63,10 @@ Edges turnedBack(const Edges& part, ReferenceOrientation orientation, const Size
     return part;
 }
 
-/// Whether an item has no part between two edges. One without extent at the first of them is inside.
+/// Whether an item has no part between two edges. One without extent at the first of them is inside; nothing is
+/// between edges that leave no room.
 bool isOutside(float begin, float end, float from, float to) noexcept {
-    return begin >= to || (end <= from && begin < from);
+    return to <= from || begin >= to || (end <= from && begin < from);
 }
 
 }  // namespace
@@ -137,7 +138,7 @@ std::optional<LegendTurn> legendTurn(ReferenceOrientation orientation, const Siz
 }
 
 std::size_t countHiddenItems(std::span<const RectF> items, ReferenceOrientation orientation, const RectF& area,
-                             const SizeF& page) noexcept {
+                             const RectF& page) noexcept {
     const Edges shown = turnedBack(shownPart(area, page), orientation, {area.width, area.height});
     return static_cast<std::size_t>(std::count_if(items.begin(), items.end(), [&](const RectF& item) {
         return isOutside(item.x, rightOf(item), shown.left, shown.right) ||

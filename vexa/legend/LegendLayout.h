@@ -50,7 +50,8 @@ struct LegendTurn {
 std::optional<LegendTurn> legendTurn(ReferenceOrientation orientation, const SizeF& box) noexcept;
 
 /// How many items show nothing of themselves: they lie outside the legend's area, or where that leads out of the page.
+/// `area` and `page` are in the same coordinates.
 std::size_t countHiddenItems(std::span<const RectF> items, ReferenceOrientation orientation, const RectF& area,
-                             const SizeF& page) noexcept;
+                             const RectF& page) noexcept;
 
 }  // namespace VEXA

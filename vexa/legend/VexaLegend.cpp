@@ -50,7 +50,7 @@ void VexaLegend::render(VexaRenderContext& context) {
 void VexaLegend::arrange(VexaRenderContext& context) {
     const bool isDocked = *legendPlacement_ != LegendPlacement::Free;
     if (isDocked) setAreaRect(dockLegend(*legendPlacement_, getAreaRect(context), getPage().getAreaSize(context)));
-    const Vector<RectF> items = layoutItems(context);
+    Vector<RectF> items = layoutItems(context);
     if (isDocked) fit(context, items);
     tellHidden(context, items);
 }
@@ -78,16 +78,20 @@ Vector<RectF> VexaLegend::layoutItems(VexaRenderContext& context) {
     return rects;
 }
 
-void VexaLegend::fit(VexaRenderContext& context, const Vector<RectF>& items) {
+// The items' own rectangles stay those of the layout.
+void VexaLegend::fit(VexaRenderContext& context, Vector<RectF>& items) {
     const LegendFit fitted = fitLegend(*legendPlacement_, getAreaRect(context), items);
-    for (std::size_t i = 0; i < items.size(); ++i) items_[i]->setPosition({items[i].x, items[i].y + fitted.shift});
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        items[i].y += fitted.shift;
+        items_[i]->setPosition({items[i].x, items[i].y});
+    }
     setAreaRect(fitted.area);
 }
 
 void VexaLegend::tellHidden(VexaRenderContext& context, const Vector<RectF>& items) {
-    const auto captions = std::count_if(items_.begin(), items_.end(), [](const auto& i) { return i->isCaptionLost(); });
+    const auto captions = std::count_if(items_.begin(), items_.end(), [](const auto& i) { return i->isCaptionCut(); });
     if (captions > 0) Log::warning(34050, {static_cast<std::int64_t>(captions)}, getPlace());
-    const std::size_t hidden = countHiddenItems(items, *orientation_, getAreaRect(context), context.getSize());
+    const std::size_t hidden = countHiddenItems(items, *orientation_, getAreaRect(context), context.getPage());
     if (hidden > 0) Log::warning(34051, {static_cast<std::int64_t>(hidden)}, getPlace());
 }
 

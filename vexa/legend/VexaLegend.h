@@ -33,7 +33,7 @@ private:
     VexaAreaObject& getPage();
     void arrange(VexaRenderContext& context);
     Vector<RectF> layoutItems(VexaRenderContext& context);
-    void fit(VexaRenderContext& context, const Vector<RectF>& items);
+    void fit(VexaRenderContext& context, Vector<RectF>& items);
     void tellHidden(VexaRenderContext& context, const Vector<RectF>& items);
     void turn(VexaRenderContext& context, const SizeF& box);
 

@@ -60,9 +60,7 @@ void VexaLegendItem::wrapCaption(VexaRenderContext& context) {
     wrapped_ = wrapLegendCaption(*caption_, context, room, getPlace());
 }
 
-bool VexaLegendItem::isCaptionLost() const {
-    return wrapped_.has_value() && wrapped_->lines.empty() && !caption_->trim().isEmpty();
-}
+bool VexaLegendItem::isCaptionCut() const { return wrapped_.has_value() && wrapped_->isCut; }
 
 void VexaLegendItem::render(VexaRenderContext& context) {
     const RenderContextScope scope(context.getRenderContext());

@@ -34,8 +34,8 @@ public:
     RectF getItemRect() const noexcept { return itemRect_; }
     /// Moves the item, its position too.
     void setItemRect(const RectF& rect) noexcept;
-    /// Whether the last layout left a caption no room.
-    bool isCaptionLost() const;
+    /// Whether the last layout had no room for some or all of the caption.
+    bool isCaptionCut() const;
 
     /// The top left corner, in the legend. Does not move the rectangle of the last layout.
     void setPosition(PointF position) noexcept { position_ = position; }

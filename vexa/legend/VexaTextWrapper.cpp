@@ -21,6 +21,7 @@ VexaTextWrapper::VexaTextWrapper(String text, WrapMode mode, VexaRenderContext& 
 const Vector<String>& VexaTextWrapper::wrap() {
     lines_.clear();
     lineSizes_.clear();
+    isCut_ = !(maxWidth_ > 0) && !text_.trim().isEmpty();
     if (!(maxWidth_ > 0)) return lines_;
     const SizeF size = context_.measureText(text_);
     if (size.width <= maxWidth_) {
@@ -36,7 +37,8 @@ void VexaTextWrapper::wrapWords() {
     position_ = 0;
     word_ = {};
     while (position_ < text_.length()) {
-        if (!buildLine() || !finishLine()) return;
+        isCut_ = !buildLine();
+        if (isCut_ || !finishLine()) return;
     }
 }
 

@@ -31,6 +31,8 @@ public:
     const Vector<String>& wrap();
     /// The measured size of each line.
     const Vector<SizeF>& getLineSizes() const noexcept { return lineSizes_; }
+    /// Whether wrapping left characters out, white space aside, because they are wider than a line.
+    bool isCut() const noexcept { return isCut_; }
 
 private:
     struct Word {
@@ -64,6 +66,7 @@ private:
     SourcePlace place_;
     Vector<String> lines_;
     Vector<SizeF> lineSizes_;
+    bool isCut_ = false;
 
     std::size_t position_ = 0;
     float remaining_ = 0;

@@ -89,7 +89,7 @@ void VexaPie::fit(VexaRenderContext& context) {
     const std::optional<float> margin = *showCaptions_ ? std::optional(takeCaptionMargin()) : std::nullopt;
     const PieFit place = fitPie(areaRect_, isView3DMode(), margin);
     captionsFit_ = place.captionsFit;
-    const auto hasCaption = [](const auto& slice) { return !slice->getCaption().isEmpty(); };
+    const auto hasCaption = [](const auto& slice) { return slice->hasCaption(); };
     if (!captionsFit_ && std::any_of(slices_.begin(), slices_.end(), hasCaption))
         Log::warning(34042, {areaRect_.width, areaRect_.height}, getPlace());
     setAreaRect(place.box);
@@ -141,12 +141,19 @@ bool VexaPie::canPaint(const SizeF& size, double total) const {
 void VexaPie::checkCaptions(VexaRenderContext& context) {
     captionsChecked_ = true;
     const RectF area = getAreaRect(context);
-    std::int64_t lost = 0;
+    std::int64_t outside = 0;
+    std::int64_t cut = 0;
     for (const auto& slice : slices_) {
-        if (leavesArea(slice->getCaptionRect(), {area.x, area.y})) slice->hideCaption();
-        if (!slice->getCaption().isEmpty() && !slice->hasCaptionToShow()) ++lost;
+        const bool leaves = leavesArea(slice->getCaptionRect(), {area.x, area.y});
+        if (leaves) slice->hideCaption();
+        if (slice->isCaptionCut()) {
+            ++cut;
+        } else if (leaves && slice->hasCaption()) {
+            ++outside;
+        }
     }
-    if (lost > 0) Log::warning(34044, {lost}, getPlace());
+    if (outside > 0) Log::warning(34044, {outside}, getPlace());
+    if (cut > 0) Log::warning(34045, {getCaptionSize(), cut}, getPlace());
     hideCaptionsThatOverlap();
 }
 

@@ -97,10 +97,12 @@ SizeF VexaSlice::breakCaption(VexaRenderContext& context, const VexaPie& pie, co
     const bool fits = width > 0 && oneLine.width <= width;
     if (fits || !pie.wrapsCaptions() || !isOutside(*captionPlacement_)) {
         captionLines_.assign(1, *caption_);
+        isCaptionCut_ = false;
         return oneLine;
     }
     VexaTextWrapper wrapper(*caption_, WrapMode::KeepWords, context, width, getPlace());
     captionLines_ = wrapper.wrap();
+    isCaptionCut_ = wrapper.isCut();
     return extentOf(wrapper.getLineSizes(), context.getTextDescent());
 }
 

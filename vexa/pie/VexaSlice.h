@@ -39,14 +39,16 @@ public:
     void setGeometry(const SliceGeometry& geometry) noexcept { geometry_ = geometry; }
     const RectF& getCaptionRect() const noexcept { return layout_.box; }
     bool isCaptionVisible() const noexcept { return isCaptionVisible_; }
-    /// Whether it is visible and the layout found room for a line of it.
-    bool hasCaptionToShow() const noexcept { return isCaptionVisible_ && !captionLines_.empty(); }
+    /// Whether the caption size had no room for some or all of the caption.
+    bool isCaptionCut() const noexcept { return isCaptionCut_; }
     /// For good: later renders do not show it either.
     void hideCaption() noexcept { isCaptionVisible_ = false; }
 
     /// What the slice's share of the pie is counted by.
     float getAbsValue() const noexcept;
     const String& getCaption() const { return *caption_; }
+    /// Whether there is one that is not blank.
+    bool hasCaption() const { return !caption_->trim().isEmpty(); }
     /// In px.
     float getCaptionOffset() const { return captionOffset_->pxSize(); }
 
@@ -65,6 +67,7 @@ private:
     Vector<String> captionLines_;
     float lineHeight_ = 0;
     bool isCaptionVisible_ = true;
+    bool isCaptionCut_ = false;
 };
 
 }  // namespace VEXA

@@ -111,6 +111,7 @@ void VexaRenderContext::applyViewBox(const LengthOrPercent& width, const LengthO
     renderContext_->setClip(PathCommand::rectangle(-1, -1, page.width + 2, page.height + 2, 0, 0));
     renderContext_->addScaleTransform(page.width / box.width, page.height / box.height);
     translate(x, y);
+    origin_ = {x.pxSize(), y.pxSize()};
     width_ = box.width;
     height_ = box.height;
 }

@@ -19,6 +19,8 @@ public:
 
     const SmartPtr<RenderContext>& getRenderContext() const noexcept { return renderContext_; }
     SizeF getSize() const noexcept { return {width_, height_}; }
+    /// What the page shows, in the coordinates of its content: of the reference size, begun where the view box says.
+    RectF getPage() const noexcept { return {-origin_.x, -origin_.y, width_, height_}; }
 
     /// In px; a percentage is one of the reference width or height.
     float pxWidth(const LengthOrPercent& length) const noexcept { return length.pxSize(width_); }
@@ -68,6 +70,7 @@ private:
     SmartPtr<RenderContext> renderContext_;
     float width_;
     float height_;
+    PointF origin_;  // of the content, from the corner of the page
     std::size_t cornersLeft_ = Limits::kPictureCorners;
 };
 

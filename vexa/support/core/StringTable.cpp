@@ -98,11 +98,14 @@ constexpr Message kMessages[] = {
      R"(write a smaller "caption-size")"},
     {34043, R"(a "start-angle" of {0} degrees is beyond what can be drawn rightly; write one from -360 to 360)"},
     {34044,
-     R"({0} captions of the pie have no room in its area and are left out; give it more width, shorten them, or write )"
-     R"(labels-position="overflow")"},
+     R"(the area of the pie has no room for {0} of its captions, they are left out; make it larger, shorten them, or )"
+     R"(write labels-position="overflow")"},
+    {34045,
+     R"(a "caption-size" of {0} px has no room for {1} of the pie's captions, they are cut short or left out; write a )"
+     R"(larger one)"},
     {34050,
-     "the legend has no room for {0} of its captions, they are left out; give it more \"width\", or \"height\" where "
-     "it is turned"},
+     "the legend has no room for {0} of its captions, they are cut short or left out; give it more \"width\", or "
+     "\"height\" where it is turned"},
     {34051,
      "the legend shows nothing of {0} of its items, they lie outside its box or the page; give it more \"width\" or "
      "\"height\""},
