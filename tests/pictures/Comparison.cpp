@@ -20,7 +20,7 @@ struct Tolerance {
 constexpr Tolerance kSvg{12, 3};
 
 /// By a third: pdftoppm moves letters onto its pixels, however small, and each further than rsvg-convert.
-constexpr Tolerance kPdf{26, 5};
+constexpr Tolerance kPdf{27, 5};
 
 /// What another program draws differently, and why; `unseen` is not looked at.
 struct Allowance {
