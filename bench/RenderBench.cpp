@@ -1,7 +1,8 @@
 #include <benchmark/benchmark.h>
-#include <expat.h>
 
+#include "bench/CartesianDocuments.h"
 #include "bench/Documents.h"
+#include "bench/ExpatAlone.h"
 #include "vexa/engine/VexaEngine.h"
 #include "vexa/surfaces/DisplayListSurface.h"
 #include "vexa/surfaces/NullSurface.h"
@@ -11,15 +12,6 @@
 
 namespace VEXA::Bench {
 namespace {
-
-void expatAlone(const std::string& document) {
-    XML_Parser const parser = XML_ParserCreateNS(nullptr, '\n');
-    XML_SetElementHandler(
-        parser, [](void*, const XML_Char*, const XML_Char**) {}, [](void*, const XML_Char*) {});
-    XML_SetCharacterDataHandler(parser, [](void*, const XML_Char*, int) {});
-    benchmark::DoNotOptimize(XML_Parse(parser, document.data(), static_cast<int>(document.size()), 1));
-    XML_ParserFree(parser);
-}
 
 SmartPtr<IO::Stream> streamOver(const std::string& document) { return make<IO::ViewStream>(document); }
 
@@ -56,6 +48,7 @@ void registerDocument(const std::string& name, const std::string& document) {
 void registerRenderBenchmarks() {
     registerDocument("small chart", example("coffee-tasting"));
     registerDocument("two gradients, 8 axes", example("team-skills"));
+    registerDocument("clustered bars 3 x 12", smallBarChart());
     registerDocument("radar 12 x 100", radarChart(12, 100));
     registerDocument("radar 1000 x 10", radarChart(1000, 10));
     registerDocument("radar 2000 x 10", radarChart(2000, 10));

@@ -9,6 +9,7 @@
 namespace VEXA::Bench {
 
 void registerRenderBenchmarks();
+void registerCartesianBenchmarks();
 
 namespace {
 
@@ -30,6 +31,7 @@ int main(int argc, char** argv) {
     addSize<VexaSpiderDataPoint>("spider-data-point");
     addSize<AttributeBox<Value>>("a given value");
     registerRenderBenchmarks();
+    registerCartesianBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

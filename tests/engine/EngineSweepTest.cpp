@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <thread>
 
 #include "tests/engine/EngineTestTools.h"
@@ -24,26 +25,46 @@ const std::string kChart =
     R"x(stroke-width="2"><vx:legend-item label="dash" label-width="3" label-spacing="1" caption="A b"/></vx:legend>)x"
     R"x(</vx:root>)x";
 
-TEST(EngineSweep, ADocumentCutAnywhereIsRefused) {
+/// A plot with all that axes, labels and charts of it may have.
+const std::string kPlot =
+    R"x(<root xmlns="http://vexa-charts.org/2008/vx" width="300" height="200" theme="red-gradient" font-size="9">)x"
+    R"x(<plot-area x="3" y="4" width="80%" height="150" fill="#eee" labels-position="fit" show-captions="true" )x"
+    R"x(aspect-3d-view="true" aspect-3d-scene-depth="9" aspect-3d-chart-depth="5" aspect-3d-shading="0.5">)x"
+    R"x(<category-axis orientation="automatic" intersection="at-minimum" caption="Day" unit="days" data-type="date" )x"
+    R"x(min="2024-02-28" max="2024-03-04"><tick-marks tick-mark-style="cross" tick-mark-length="4"/>)x"
+    R"x(<display-values offset="3" placement="between-ticks" orientation="diagonal" format="d MMM"/></category-axis>)x"
+    R"x(<value-axis orientation="vertical" intersection="at-cross-value" caption="mm" caption-offset="2" unit="10" )x"
+    R"x(min="-20" max="40"><grid-lines type="line" stroke="#ccc"/><display-values format="0.0" draw-at-min="false" )x"
+    R"x(adjust-values="true" min="-10" max="30"><value value="10" display="ten"/></display-values></value-axis>)x"
+    R"x(<bar-chart grouping="stacked" cluster-spacing="2" bar-shape="cylinder"><serie><data-point width="7" )x"
+    R"x(category="2024-03-01" value="12"/><data-point category="2024-03-02" value="-5" caption="low"/></serie><serie>)x"
+    R"x(<data-point category="2024-03-01" value="20" marker="circle"/></serie></bar-chart><line-chart><serie>)x"
+    R"x(<data-point category="2024-02-29" value="1"/></serie></line-chart></plot-area></root>)x";
+
+class EngineSweepOf : public testing::TestWithParam<std::string> {};
+
+TEST_P(EngineSweepOf, ADocumentCutAnywhereIsRefused) {
     const CapturedLog log;
-    EXPECT_NO_THROW(load(kChart));
-    for (std::size_t length = 0; length < kChart.size(); ++length) {
-        EXPECT_THROW(load(kChart.substr(0, length)), Exception) << "cut at " << length;
+    EXPECT_NO_THROW(load(GetParam()));
+    for (std::size_t length = 0; length < GetParam().size(); ++length) {
+        EXPECT_THROW(load(GetParam().substr(0, length)), Exception) << "cut at " << length;
     }
 }
 
-TEST(EngineSweep, NastyValuesDrawSomethingOrAreRefused) {
+TEST_P(EngineSweepOf, NastyValuesDrawSomethingOrAreRefused) {
+    const std::string& chart = GetParam();
     const std::string digits(10'000, '9');
     const std::string nasty[] = {"",   "0",     "-1",  "1e38", "-1e38",        "1e999", "nan",      "1e-45",   "1e38%",
                                  "#g", "0 0 0", "{0}", "none", "url(#nobody)", digits,  "16777216", "0.5 0.5", "-3e9"};
     std::size_t swept = 0;
     const CapturedLog log;
-    for (std::size_t quote = kChart.find("=\""); quote != std::string::npos; quote = kChart.find("=\"", quote + 1)) {
-        const std::size_t end = kChart.find('"', quote + 2);
+    for (std::size_t quote = chart.find("=\""); quote != std::string::npos; quote = chart.find("=\"", quote + 1)) {
+        const std::size_t end = chart.find('"', quote + 2);
         for (const std::string& value : nasty) {
-            const std::string what = kChart.substr(quote - 12, 12) + "=" + value.substr(0, 20);
+            const std::string what =
+                chart.substr(quote - std::min<std::size_t>(quote, 12), 12) + "=" + value.substr(0, 20);
             try {
-                const std::string drawn = draw(kChart.substr(0, quote + 2) + value + kChart.substr(end));
+                const std::string drawn = draw(chart.substr(0, quote + 2) + value + chart.substr(end));
                 EXPECT_TRUE(drawn.ends_with("{\"op\":\"endDocument\"}\n")) << what;
             } catch (const Exception& e) {
                 EXPECT_STRNE(e.what(), "") << what;
@@ -53,6 +74,9 @@ TEST(EngineSweep, NastyValuesDrawSomethingOrAreRefused) {
     }
     EXPECT_GT(swept, 50U);
 }
+
+INSTANTIATE_TEST_SUITE_P(Charts, EngineSweepOf, testing::Values(kChart, kPlot),
+                         [](const auto& chart) { return chart.index == 0 ? "Radar" : "Plot"; });
 
 TEST(EngineSweep, EveryElementMayStandEmptyInEveryOther) {
     const CapturedLog log;

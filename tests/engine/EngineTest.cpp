@@ -97,14 +97,6 @@ TEST(Engine, TellsReadersWhatTheChartIsAbout) {
     EXPECT_EQ(surface->info.description, "Radar chart of 1 series on 1 axis: A.");
 }
 
-TEST(Engine, WarnsOnceOfEachElementThatIsNotPainted) {
-    const CapturedLog log;
-    const auto root = load(rootWith("", "\n<plot-area/>\n <spider/><plot-area/>"));
-    for (int times = 0; times < 2; ++times) root->render(make<NullSurface>(), 800, 600);
-    EXPECT_EQ(log.told(), "34010@2:1 34010@3:11") << "in document order";
-    EXPECT_NE(log.records.at(0).message.find("\"plot-area\""), String::npos);
-}
-
 TEST(EngineInheritance, NearestAncestorThatCarriesTheAttributeDecides) {
     const struct {
         std::string root, plot, chart, serie, point;

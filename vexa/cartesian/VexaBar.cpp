@@ -16,4 +16,14 @@ XmlObjectTypeInfo* VexaBar::getTypeInfoInstance() {
     return &info.value;
 }
 
+void VexaBar::render(VexaRenderContext& context) {
+    if (getSeries().size() == 1) grouping_.setValue(SerieGrouping::Overlapped);
+    VexaContainerObject::render(context);
+}
+
+bool VexaBar::isReversed(BarDirection direction) const {
+    const bool isLyingCluster = *grouping_ == SerieGrouping::Clustered && direction == BarDirection::Horizontal;
+    return isLyingCluster || VexaContainerObject::isReversed(direction);
+}
+
 }  // namespace VEXA

@@ -16,6 +16,8 @@ public:
     static XmlObjectTypeInfo* getTypeInfoInstance();
     static int typeID() { return getTypeInfoInstance()->typeID(); }
     XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
+
+    VexaCategoryAxis() noexcept : VexaAxisObject(/*isCategory*/ true) {}
 };
 
 }  // namespace VEXA

@@ -17,7 +17,8 @@ public:
     static int typeID() { return getTypeInfoInstance()->typeID(); }
     XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
 
-    /// Paints nothing; see VexaPlotArea::render.
+    /// Paints a line across the plot at each axis value, in coordinates of the plot (in the 3-D view of its back plane,
+    /// with a line on the left wall or on the floor). Throws NullPointerException outside an axis.
     void render(VexaRenderContext& context) override;
 
 private:

@@ -16,6 +16,8 @@ public:
     static XmlObjectTypeInfo* getTypeInfoInstance();
     static int typeID() { return getTypeInfoInstance()->typeID(); }
     XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
+
+    VexaLine() noexcept : VexaContainerObject(ContainerKind::Line) {}
 };
 
 }  // namespace VEXA

@@ -17,8 +17,10 @@ public:
     static int typeID() { return getTypeInfoInstance()->typeID(); }
     XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
 
-    /// Paints nothing; see VexaPlotArea::render.
+    /// Paints a mark at each axis value, in coordinates of the axis line. Throws NullPointerException outside an axis.
     void render(VexaRenderContext& context) override;
+    /// How far the marks reach outward, px: nothing for style `none`, else their width and what lies outside.
+    float getExtent();
 
 private:
     TXmlAttribute<TickMarkStyle> tickMarkStyle_{DefaultTickMarkStyle};

@@ -20,6 +20,10 @@ public:
     /// Paints nothing: a value is read by the labels of its axis.
     void render(VexaRenderContext& context) override;
 
+    /// The axis value that the text stands for.
+    const Value& getValue() const { return *value_; }
+    const String& getDisplay() const { return *display_; }
+
 private:
     TXmlAttribute<Value> value_{DefaultValue};
     TXmlAttribute<String> display_{DefaultStringAttribute};

@@ -16,6 +16,8 @@ public:
     static XmlObjectTypeInfo* getTypeInfoInstance();
     static int typeID() { return getTypeInfoInstance()->typeID(); }
     XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
+
+    VexaValueAxis() noexcept : VexaAxisObject(/*isCategory*/ false) {}
 };
 
 }  // namespace VEXA

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vexa/support/core/DateTimeEx.h"
+#include "vexa/support/core/String.h"
 #include "vexa/support/core/Vector.h"
 #include "vexa/support/drawing/Matrix.h"
 #include "vexa/support/values/Transform.h"
@@ -7,7 +9,8 @@
 
 namespace VEXA {
 
-/// Arithmetic of scales, transforms and arcs. Nothing here throws, and every loop ends for every input.
+/// Arithmetic of scales, transforms and arcs, numbers and dates as text. Nothing here throws, and every loop ends for
+/// every input.
 class Util {
 public:
     Util() = delete;
@@ -33,6 +36,25 @@ public:
     /// The smallest step of the series of getNextFrequencyUnit that divides a span into about `parts` pieces at most.
     /// 0 for a span of 0; 0.1 for a negative span, for NaN, and for 0 parts or less.
     static float getFloatMinUnit(float span, int parts);
+
+    /// A number by a pattern of XmlDecimalNumberFormatter. Settings may follow in this order: `th:` and the grouping
+    /// separator, `dec:` and the decimal separator, `sign:` and the minus sign, as in `#,##0.00 th:. dec:, sign:-`.
+    /// `th:` may be empty but must be there: without it the others are shown, too. To write many numbers by one
+    /// specification read it once, with readNumberFormat.
+    static String decimalFormat(float value, const String& spec);
+
+    /// A date by a pattern, in English; `date:` in front of it is left out. Runs of a letter stand for a field, as many
+    /// letters for as many digits at least:
+    ///
+    /// `y` `yy` year without the century, nothing before the year 100, `yyyy` in full; `M` month, `MMM` Mar, `MMMM`
+    /// March; `d` day, `O` 1st; `D` day of the year; `E` Tue, `EEEE` Tuesday; `F` full weeks of the month that are
+    /// over; `w` week of the year from Monday on, `W` week of the month from Sunday on, as DateFields counts them; `H`
+    /// hour 0-23, `k` 1-24, `h` 1-12, `K` 0-11 with `a` AM or PM; `m` minute; `s` second; `S` nothing; `G` AD or BC;
+    /// `z` UTC.
+    ///
+    /// Other letters of ASCII are left out, other characters stay. Text between quotes (') stays as it is, two quotes
+    /// in a row outside of such text are one. Of an overlong pattern only the start counts (Limits::kDatePattern).
+    static String dateFormat(const String& pattern, const DateTimeEx& date);
 
     /// Multiplies the transforms into the matrix in their order, as SVG does; an unknown kind changes nothing.
     static void addTransformationList(Matrix& matrix, const Vector<Transform>& transforms);

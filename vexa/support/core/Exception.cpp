@@ -33,4 +33,6 @@ UnreacheableCodeException::UnreacheableCodeException(String what) : Exception(kU
 
 NullPointerException::NullPointerException() : Exception(kNullPointer) {}
 
+NullPointerException::NullPointerException(int code, VariantArray arguments) : Exception(code, std::move(arguments)) {}
+
 }  // namespace VEXA

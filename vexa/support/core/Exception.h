@@ -62,10 +62,11 @@ public:
     explicit UnreacheableCodeException(String what);
 };
 
-/// A mandatory object is missing. Message number 2002.
+/// A mandatory object is missing. Message number 2002, or one that names the object.
 class NullPointerException : public Exception {
 public:
     NullPointerException();
+    explicit NullPointerException(int code, VariantArray arguments = {});
 };
 
 /// Records the code location (and the document's place, when given), writes the exception to the log and throws it.

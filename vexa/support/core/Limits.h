@@ -23,7 +23,8 @@ inline constexpr std::size_t kWebRings = 10'000;
 /// Corners of all rings of one web; ten thousand rings of a hundred thousand axes would be 1e9. Test: Limits.WebCorners
 inline constexpr std::size_t kWebCorners = 1'000'000;
 /// Corners of all rings and series of a picture. 16,000 axes with 10,000 series, half a megabyte, would write 160
-/// million of them. Test: Limits.PictureCorners
+/// million of them. Generated values of axes count, too, and the texts of labels: a thousand plots with 100,000 values
+/// each would be 1e8 labels. Tests: Limits.PictureCorners, Limits.PictureAxisValues, Limits.LabelTexts
 inline constexpr std::size_t kPictureCorners = 4'000'000;
 /// Lines of a caption: a width of 0.001 px would break a long text into millions. Test: Limits.CaptionLines
 inline constexpr std::size_t kCaptionLines = 10'000;
@@ -31,6 +32,11 @@ inline constexpr std::size_t kCaptionLines = 10'000;
 /// megabyte. Tests: Limits.NumberPattern, Limits.NumberSeparator
 inline constexpr std::size_t kNumberPattern = 1000;
 inline constexpr std::size_t kNumberSeparator = 10;
+/// Characters of a date pattern, and so copies of a letter in it, each of which is a digit: 100,000 labels could each
+/// repeat a pattern of a megabyte. Test: Limits.DatePattern
+inline constexpr std::size_t kDatePattern = 1000;
+/// Generated values on one axis. A step of 1e-6 over 1e6 would ask for 1e12 labels. Test: Limits.AxisValues
+inline constexpr std::size_t kAxisValues = 100'000;
 /// Stops of a gradient. A display list tells them with every shape: 20,000 stops on 10,000 rings would be gigabytes.
 /// Test: Limits.GradientStops
 inline constexpr std::size_t kGradientStops = 256;

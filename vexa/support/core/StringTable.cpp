@@ -65,7 +65,6 @@ constexpr Message kMessages[] = {
     {34003, R"(href "{0}" leads to a gradient of another kind; linear gradients take stops from linear ones only)"},
     {34004, "a gradient has more than {0} stops, the further ones are left out; take fewer"},
     {34005, "a dash pattern has more than {0} entries, the further ones are left out; write a shorter one"},
-    {34010, R"("{0}" elements are not painted by this version; the rest of the chart is)"},
     {34011, R"(the view box "{0}" has no extent; write min-x, min-y and a width and a height above 0)"},
     {34012, R"(a web of {0} rings is too fine, a part of them is drawn; give the spider a larger "unit-frequency")"},
     {34013, R"(the web has no stroke; to leave the web out, write draw-web="false" in place of web-stroke="none")"},
@@ -109,6 +108,43 @@ constexpr Message kMessages[] = {
     {34051,
      "the legend shows nothing of {0} of its items, they lie outside its box or the page; give it more \"width\" or "
      "\"height\""},
+
+    {34060,
+     "the number format \"{0}\" has a setting that counts as text; write them behind the pattern in the order th:, "
+     "dec:, "
+     "sign:, the first one always, as in \"0.0 th: dec:,\""},
+    {34061,
+     "a number format has a pattern of more than {0} characters, or a setting of more than {1}, the further ones are "
+     "left out; write shorter ones"},
+    {34062, "a date format has more than {0} characters, the further ones are left out; write a shorter one"},
+    {34063,
+     R"(the letter "{0}" means nothing in the date format "{1}" and is left out; put text between quotes: 'Q'M)"},
+    {34064, R"(the date format "{0}" shows nothing of a date, all labels are the same; write one such as d MMM yyyy)"},
+    {34065, R"(the plot area has no {0}, nothing of it can be drawn; add one)"},
+    {34066,
+     R"(the unit "{0}" of the "{1}" is not above 0; write a number above 0, or automatic, days, months or years)"},
+    {34067, R"(the unit "{0}" of the "{1}" asks for {2} values, more than {3}; write a larger one)"},
+    {34068,
+     R"(the "{0}" would have {1} values, more than {2}, the first and the last one are drawn; give it a larger "unit")"},
+    {34069,
+     "labels and captions leave no room for the plot ({0} by {1} px), nothing of it is drawn; make the plot area "
+     "larger "
+     "or the texts smaller"},
+    {34070,
+     R"(data points without a category are left out, {0} of this series, this one first; give each a "category")"},
+    {34071,
+     "data points with the category of an earlier one are left out, {0} of this series, this one first; take them out "
+     "or "
+     "correct the category"},
+    {34072, R"(data points whose {1} is no {2} are left out, {0} of this series, this one first; correct them, or the )"
+            R"("data-type" of the "{3}")"},
+    {34073, R"(the "{0}" of the "{1}" does not count, "{2}" is no {3}; write a {3})"},
+    {34074, R"(the "{0}" would go from {1} back to {2}; correct its "min" and "max")"},
+    {34075,
+     R"(the picture has no room for the {1} values of the "{0}", the first and the last one are drawn; give it a larger )"
+     R"("unit", or take fewer charts)"},
+    {34076,
+     R"(the picture has no room for the further labels of the "{0}", they are left out; write a shorter "format")"},
 
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},

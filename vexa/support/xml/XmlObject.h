@@ -70,6 +70,16 @@ template <class T>
 class XmlObjectList {
 public:
     void add(XmlObjPtr<T> child) { children_.push_back(std::move(child)); }
+    /// Takes out the children that the function says, asking it once for each in their order; they have no parent then.
+    /// Returns how many.
+    template <class Predicate>
+    std::size_t removeIf(Predicate shouldGo) {
+        return std::erase_if(children_, [&](const XmlObjPtr<T>& child) {
+            const bool goes = shouldGo(child);
+            if (goes) child->setParent(nullptr);
+            return goes;
+        });
+    }
     std::size_t size() const noexcept { return children_.size(); }
     bool isEmpty() const noexcept { return children_.empty(); }
     const XmlObjPtr<T>& operator[](std::size_t index) const noexcept { return children_[index]; }
