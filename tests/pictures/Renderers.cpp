@@ -47,7 +47,7 @@ int pixels(const std::string& svg, const std::string& attribute) {
 class SvgSheet {
 public:
     void add(const std::string& document) {
-        constexpr int kWidth = 1200;
+        constexpr int kWidth = 6000;  // rsvg-convert draws up to 32767 pixels a side
         Area place{x_, y_, pixels(document, "width"), pixels(document, "height")};
         if (place.x + place.width > kWidth) place.x = 0, place.y = y_ = height_;
         x_ = place.x + place.width;
