@@ -68,6 +68,15 @@ TEST(PlotArea, LayoutMeasuresFirstAndComputesTheValuesAgain) {
     EXPECT_EQ(plotOf(*root).getOuterRect(), (RectF{10, 20, 200, 90}));
 }
 
+TEST(PlotArea, LabelsFollowTheLayoutAlsoWhereNothingElseAsksForTheScale) {
+    const WithFonts fonts;
+    // The sizes of the test above; no chart, tick or grid line, and no axis crosses at a value.
+    const std::string at = " intersection='at-minimum'><display-values/>";
+    EXPECT_EQ(textsOf(plotWith("x='10' y='20' width='200' height='90'",
+                               "<category-axis" + at + "</category-axis><value-axis max='40'" + at + "</value-axis>")),
+              "0 16,101; 10 10,83.25; 20 10,65.5; 30 10,47.75; 40 10,30; 0 23,110; ");
+}
+
 TEST(PlotArea, ARangeThatWasMovedOntoItsStepsStaysThere) {
     const WithFonts fonts;
     // 41 -> 45. In 45 px 4 labels fit: a step of 20, and 0 … 60. The caption takes 10 + 4 + 2 px and half a label 5 px:

@@ -151,6 +151,8 @@ TEST(PlotData, BoundsThatTheAxisCannotShowAreTold) {
     EXPECT_EQ(log.codes(), "34073 34073") << "a year is a number, and a text is none";
     EXPECT_EQ(rangeOf("min='2024-05-01'", "min='50' max='10'"), "2024-03-01 2024-03-03 50 75");
     EXPECT_EQ(log.codes(), "34073 34073 34074 34074") << "backwards: the data's dates; numbers go on above the minimum";
+    EXPECT_EQ(rangeOf("max='2024-02-01'", "max='-5'"), "2024-03-01 2024-03-03 0 25");
+    EXPECT_EQ(log.codes(), "34073 34073 34074 34074 34074 34074") << "a largest value below the data's smallest, too";
 }
 
 }  // namespace

@@ -110,6 +110,37 @@ TEST(Serie, OfAnUnknownChartIsRefused) {
     EXPECT_EQ(render(ContainerKind::None, 0), "");
 }
 
+TEST(Serie, KeepsTheFirstPointOfEachCategoryInAnyOrder) {
+    const CapturedLog log;
+    const std::string dates = "2024-01-01=1 2024-01-02=2 2024-02-01=3";
+    const struct {
+        std::string axis, data;
+        const char *kept, *why;
+    } cases[] = {
+        {"", "1=1 2=2 3=3", "1 2 3 ", "rising"},
+        {"", "1=1 2=2 3=3 3=4", "1 2 3 ", "repeated at the end of a rise"},
+        {"", "1=1 1=2 2=3 2=4", "1 3 ", "never falling"},
+        {"", "1=1 2=2 3=3 2=4 1=5 4=6", "1 2 3 6 ", "repeated after a rise"},
+        {"", "-0=1 0=2 1=3", "1 3 ", "a zero has no sign"},
+        {"", "=1 1=2 2=3", "2 3 ", "the first one nameless"},
+        {"", "1=1 =2 2=3", "1 3 ", "one in the middle nameless"},
+        {"", "=1", "", "nothing else"},
+        {"", dates, "1 2 3 ", "rising dates"},
+        {"", dates + " 2024-01-02=4", "1 2 3 ", "dates, one repeated"},
+        {"", "B=1 C=2 B=3", "1 2 ", "names in the order of the alphabet"},
+        {"data-type='number'", "1=1 2024-01-01=2 2=3 1=4", "1 2 3 ", "a date in a rise of numbers"},
+        {"data-type='text'", "1=1 1.0000001=2 2=3", "1 3 ", "rising numbers that look equal as texts"},
+    };
+    for (const auto& c : cases) {
+        const auto root = load(chart("line", serie(c.data), "<category-axis " + c.axis + "/><value-axis/>"));
+        VexaSerie& line = *plotOf(*root).getCharts()[0]->getSeries()[0];
+        line.prepareDataPoints();
+        std::string kept;
+        for (const auto& point : line.getDataPoints()) kept += point->getValue().getValue().toUtf8() + ' ';
+        EXPECT_EQ(kept, c.kept) << c.why;
+    }
+}
+
 TEST(Serie, FindsThePointAtACoordinate) {
     const auto root = load(chart("line", serie("0=4 10=2 15=4")));
     VexaRenderContext context(make<NullSurface>(), 400, 300);

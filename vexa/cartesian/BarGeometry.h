@@ -15,7 +15,7 @@ struct BarAnchors {
     PointF base;
 };
 
-/// A bar of `width` px across the category axis, as the flat view shows it. Never of negative size.
+/// A bar of `width` px across the category axis, as the flat view shows it. Never of negative length.
 RectF flatBar(const BarAnchors& bar, float width, BarDirection direction) noexcept;
 
 }  // namespace VEXA

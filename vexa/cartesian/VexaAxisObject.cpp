@@ -97,8 +97,8 @@ void VexaAxisObject::tellBounds(const AxisRange& usable) {
     };
     if (!(given.min == usable.min)) tellUnusable("min", given.min);
     if (!(given.max == usable.max)) tellUnusable("max", given.max);
-    const AxisRange& range = isReversed(range_) ? range_ : usable;
-    if (isReversed(range)) Log::warning(kReversed, {name, range.min.getValue(), range.max.getValue()}, getPlace());
+    const AxisRange wanted{range_.min, usable.max.isNone() ? range_.max : usable.max};
+    if (isReversed(wanted)) Log::warning(kReversed, {name, wanted.min.getValue(), wanted.max.getValue()}, getPlace());
 }
 
 void VexaAxisObject::setRange(AxisRange range) {

@@ -55,13 +55,14 @@ XmlObjectTypeInfo* VexaDisplayValues::getTypeInfoInstance() {
 }
 
 const LabelLayout& VexaDisplayValues::getLabels(VexaRenderContext& context) {
-    if (!labels_) labels_ = layoutLabels(context);
+    const VexaAxisObject& axis = VexaAxisObject::of(*this);
+    const AxisScale& scale = axis.getPlotArea().getScale(context, axis.isCategory());  // a new one drops the labels
+    if (!labels_) labels_ = layoutLabels(context, scale);
     return *labels_;
 }
 
-LabelLayout VexaDisplayValues::layoutLabels(VexaRenderContext& context) {
+LabelLayout VexaDisplayValues::layoutLabels(VexaRenderContext& context, const AxisScale& scale) {
     VexaAxisObject& axis = VexaAxisObject::of(*this);
-    const AxisScale& scale = axis.getPlotArea().getScale(context, axis.isCategory());
     if (!isKnown(*orientation_) && !scale.values().empty())
         refuseOrientation(*this, *orientation_, axis.isVertical() ? 227 : 262);
     const RenderContextScope scope(context.getRenderContext());

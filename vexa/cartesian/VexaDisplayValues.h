@@ -10,6 +10,7 @@
 
 namespace VEXA {
 
+class AxisScale;
 class VexaAxisObject;
 
 /// The labels of an axis, and the bounds that the document gives it. Labels are laid out once for a render, in the font
@@ -54,7 +55,7 @@ public:
 
 private:
     const LabelLayout& getLabels(VexaRenderContext& context);
-    LabelLayout layoutLabels(VexaRenderContext& context);
+    LabelLayout layoutLabels(VexaRenderContext& context, const AxisScale& scale);
     Vector<LabelText> measureTexts(VexaRenderContext& context, const Vector<Value>& values);
     LabelTexts makeTexts(ValueKind kind);
     void checkFormat(ValueKind kind);

@@ -1,5 +1,6 @@
 #include "vexa/cartesian/VexaSerie.h"
 
+#include <algorithm>
 #include <array>
 
 #include "vexa/cartesian/LostPoints.h"
@@ -10,7 +11,7 @@ namespace VEXA {
 namespace {
 
 constexpr int kNoCategory = 34070;
-constexpr int kSameCategory = 34071;
+constexpr int kRepeatedCategory = 34071;
 
 const Value& valueOf(const VexaDataPoint& point, bool category) {
     return category ? point.getCategory() : point.getValue();
@@ -20,6 +21,16 @@ const Value& valueOf(const VexaDataPoint& point, bool category) {
 bool isBelow(const Value& a, const Value& b) noexcept {
     if (a.getKind() == ValueKind::Date) return a.getDate() < b.getDate();
     return a.getDouble() < b.getDouble();
+}
+
+/// Numbers, or dates, as measurements come: none is missing and none is repeated.
+bool areRising(const XmlObjectList<VexaDataPoint>& points) {
+    const auto isBreak = [](const auto& point, const auto& next) {
+        const Value& category = point->getCategory();
+        return category.getKind() != next->getCategory().getKind() || !isBelow(category, next->getCategory());
+    };
+    if (points.isEmpty() || points[0]->getCategory().isNone()) return points.isEmpty();
+    return std::adjacent_find(points.begin(), points.end(), isBreak) == points.end();
 }
 
 }  // namespace
@@ -53,6 +64,7 @@ void VexaSerie::prepareDataPoints() {
     if (!needsPreparation_) return;
     const bool areTexts = VexaPlotArea::of(*this).getDataKind(true) == ValueKind::Text;
     needsPreparation_ = false;
+    if (!areTexts && areRising(dataPoints_)) return;
     ValueIndex categories;
     LostPoints nameless;
     LostPoints repeated;
@@ -68,7 +80,7 @@ void VexaSerie::prepareDataPoints() {
         return true;
     });
     nameless.tell(kNoCategory);
-    repeated.tell(kSameCategory);
+    repeated.tell(kRepeatedCategory);
 }
 
 ValueKind VexaSerie::getValueType(bool categories) const {
