@@ -45,12 +45,12 @@ void expectAlike(const char* surface, const std::vector<Picture>& png, const std
 
 TEST(Charts, LookTheSameInSvg) {
     const Charts charts;
-    expectAlike("SVG", drawnAsPng(charts.documents), drawnAsSvg("charts", charts.documents, 2));
+    expectAlike("chart as SVG", drawnAsPng(charts.documents), drawnAsSvg("charts", charts.documents, 2));
 }
 
 TEST(Charts, LookTheSameInPdf) {
     const Charts charts;
-    expectAlike("PDF", drawnAsPng(charts.documents), drawnAsPdf("charts", charts.documents, 6));
+    expectAlike("chart as PDF", drawnAsPng(charts.documents), drawnAsPdf("charts", charts.documents, 6));
 }
 
 }  // namespace
