@@ -45,12 +45,14 @@ void XmlObjectTypeInfo::buildIndexes(const XmlObjectTypeInfo* parent) {
     if (parent != nullptr) ancestors_ = parent->ancestors_;
     ancestors_.push_back(typeId_);
     inheritedIndex_.assign(XmlObjectFactory::kMaxInheritableNames, 0);
+    attributeIndex_.reserve(attributes_.size());
     for (std::size_t i = 0; i < attributes_.size(); ++i) {
         attributeIndex_.add(attributes_[i].getName(), static_cast<int>(i));
         if (!attributes_[i].isInherited()) continue;
         inheritedMask_ |= std::uint64_t{1} << attributes_[i].inheritableId();
         inheritedIndex_[static_cast<std::size_t>(attributes_[i].inheritableId())] = static_cast<std::uint8_t>(i);
     }
+    elementIndex_.reserve(elements_.size());
     for (std::size_t i = 0; i < elements_.size(); ++i) {
         elementIndex_.add(elements_[i]->getName(), static_cast<int>(i));
     }
