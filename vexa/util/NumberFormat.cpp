@@ -34,7 +34,7 @@ std::u32string_view behind(std::u32string_view text, std::u32string_view marker)
     return at == text.npos ? std::u32string_view() : text.substr(at + marker.size());
 }
 
-/// The parts of a specification, blanks cut off.
+/// The parts of a format, blanks cut off.
 struct NumberSpec {
     explicit NumberSpec(std::u32string_view spec) noexcept
         : pattern(trimmed(before(spec, kGrouping))),

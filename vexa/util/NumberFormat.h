@@ -10,7 +10,7 @@ namespace VEXA {
 DecimalFormat readNumberFormat(const String& spec);
 
 /// Warns of what is not read as it looks: settings out of their order, and what is beyond the limits. `place` is that
-/// of the element that has the specification.
+/// of the element that has the format.
 void checkNumberFormat(const String& spec, SourcePlace place);
 
 }  // namespace VEXA

@@ -40,7 +40,7 @@ public:
     /// A number by a pattern of XmlDecimalNumberFormatter. Settings may follow in this order: `th:` and the grouping
     /// separator, `dec:` and the decimal separator, `sign:` and the minus sign, as in `#,##0.00 th:. dec:, sign:-`.
     /// `th:` may be empty but must be there: without it the others are shown, too. To write many numbers by one
-    /// specification read it once, with readNumberFormat.
+    /// format read it once, with readNumberFormat.
     static String decimalFormat(float value, const String& spec);
 
     /// A date by a pattern, in English; `date:` in front of it is left out. Runs of a letter stand for a field, as many
