@@ -97,12 +97,15 @@ TEST(Docs, LinksLeadSomewhere) {
     EXPECT_GT(count, 5U);
 }
 
-TEST(Docs, ThePictureOfTheReadmeIsItsExample) {
-    const fs::path picture = fs::path(VEXA_TEST_OUTPUT) / "radar.svg";
-    EXPECT_EQ(outputOf(VEXA_DRAW_CHART " " VEXA_SOURCE_DIR "/examples/team-skills.xml " + picture.string() + " 2>&1"),
-              "");
-    EXPECT_TRUE(contentOf(picture) == contentOf(kSource / "docs/images/radar.svg"))
-        << "make demo, look at it, then copy out/team-skills.svg to docs/images/radar.svg";
+TEST(Docs, ThePicturesOfTheReadmeAreTheirExamples) {
+    for (const auto& [image, example] : {std::pair("radar", "team-skills"), std::pair("bars", "bars-stacked")}) {
+        const std::string file = std::string(image) + ".svg";
+        const fs::path picture = fs::path(VEXA_TEST_OUTPUT) / file;
+        const std::string source = std::string(VEXA_SOURCE_DIR "/examples/") + example + ".xml ";
+        EXPECT_EQ(outputOf(VEXA_DRAW_CHART " " + source + picture.string() + " 2>&1"), "");
+        EXPECT_TRUE(contentOf(picture) == contentOf(kSource / "docs/images" / file))
+            << "make demo, look at it, then copy out/" << example << ".svg to docs/images/" << file;
+    }
 }
 
 TEST(Docs, TheChartAndTheProgramOfTheReadmeMakeAPicture) {
