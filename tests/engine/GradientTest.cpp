@@ -66,7 +66,7 @@ TEST(Gradient, ReadsItsAttributes) {
 
 TEST(Gradient, HrefToNoneOfItsKindGivesNothingThenNoStops) {
     const std::pair<const char*, const char*> cases[] = {
-        {"#missing", "34001@5:1"}, {"#r", "34003@5:1"}, {"l", "34001@5:1"}};  // the other kind; a reference needs its #
+        {"#missing", "34001@5:1"}, {"#r", "34003@5:1"}, {"l", "34102@5:1"}};  // the other kind; a reference needs its #
     for (const auto& [href, code] : cases) {
         const CapturedLog log;
         const auto root = definitions("\n<linear-gradient id='g' href='" + std::string(href) + "'/>");

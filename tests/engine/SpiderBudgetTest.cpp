@@ -70,9 +70,9 @@ TEST(SpiderBudget, PointsWithoutTheirAxisAreTold) {
     } cases[] = {
         {axes, a + b + a, false, "", "the second of two for an axis has its axis"},
         {axes, b, false, "", "an axis may go without a point"},
-        {axes, unknown + a + unknown, false, "34016@2:3 34016@3:3", "each at its place; case counts"},
+        {axes, unknown + a + unknown, false, "34104@2:3 34104@3:3", "each at its place; case counts"},
         {axes, a + b + nameless, false, "34000@2:1", "no search reaches it, and nothing shows it"},
-        {axes + axes, a + b + unknown, false, "34016@2:3", "equal ids"},
+        {axes + axes, a + b + unknown, false, "34104@2:3", "equal ids"},
         {axes, unknown + nameless, true, "34000@3:1", "a series that fails tells its failure only"},
         {"", unknown + nameless, false, "", "without axes nothing but the background is drawn"},
     };

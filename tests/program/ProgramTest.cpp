@@ -40,7 +40,8 @@ TEST(Program, WarnsOfElementsItCannotUseAndDrawsTheRest) {
     const Outcome told = run(directory, "render chart.xml -o chart.svg");
     EXPECT_EQ(told.status, 0);
     EXPECT_TRUE(startsWith(told.errors, "chart.xml:2:3: warning: ")) << told.errors;
-    for (const char* help : {"did you mean \"title\"?", "no element takes it", "in \"area-chart\", \"bar-chart\""}) {
+    for (const char* help :
+         {"did you mean \"title\"?", "no element takes it", "inside <area-chart>, <bar-chart> or <line-chart>"}) {
         EXPECT_NE(told.errors.find(help), std::string::npos) << told.errors;
     }
     EXPECT_NE(directory.read("chart.svg").find("kept"), std::string::npos);

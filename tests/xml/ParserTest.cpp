@@ -153,7 +153,7 @@ TEST(Parser, TellsWhatWouldDo) {
         {box("<book name='&#0;'/>"), "&#9;"},
         {"<?xml encoding='UTF-8'?><box/>", "write <?xml version=\"1.0\" encoding=\"UTF-8\"?>"},
         {box("<book><label/></book>"),
-         "element \"label\" may not stand in \"book\" and is skipped; it belongs in \"box\""},
+         "element \"label\" may not stand in \"book\" and is skipped; write it inside <box>"},
     };
     for (const auto& [document, part] : cases) {
         Collector collector;

@@ -11,6 +11,7 @@ public:
     void add(const VexaDataPoint& point) noexcept {
         if (count_++ == 0) first_ = point.getPlace();
     }
+    bool isEmpty() const noexcept { return count_ == 0; }
     /// Nothing when no point was lost. The count goes in front of the arguments.
     void tell(int message, VariantArray arguments = {}) const {
         if (count_ == 0) return;

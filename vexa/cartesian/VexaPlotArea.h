@@ -90,6 +90,9 @@ public:
     float getValuePosition(VexaRenderContext& context, const Value& value);
     float getOriginPosition(VexaRenderContext& context);
 
+    /// Throws Exception 34066, naming the axis, for a unit of 0 or less.
+    static void checkUnit(VexaAxisObject& axis);
+
     /// The area's rectangle as the document gives it, before the layout shrank it; empty before that.
     const RectF& getOuterRect() const noexcept { return outerRect_; }
 
@@ -117,7 +120,6 @@ private:
     Vector<Value> makeAxisValues(VexaRenderContext& context, bool category);
     Vector<Value> makeNumericValues(VexaRenderContext& context, bool category);
     Vector<Value> makeDateValues(VexaRenderContext& context, bool category);
-    static void checkUnit(VexaAxisObject& axis);
     static void tellThinned(VexaAxisObject& axis, const AxisTicks& ticks, bool isUnitGiven);
 
     TXmlAttribute<bool> showCaptions_{DefaultTrueBoolAttribute};

@@ -1,5 +1,7 @@
 #include "vexa/cartesian/LostPoints.h"
 #include "vexa/cartesian/VexaPlotArea.h"
+#include "vexa/support/core/QuotedText.h"
+#include "vexa/support/values/Suggestion.h"
 
 // What the plot area knows of its data, whatever its size: kinds, ranges and totals.
 
@@ -8,6 +10,7 @@ namespace VEXA {
 namespace {
 
 constexpr int kOtherKind = 34072;
+constexpr int kOtherForm = 34106;
 
 bool isStacked(const VexaContainerObject& chart) {
     return chart.getContainerKind() == ContainerKind::Bar && chart.getGrouping() == SerieGrouping::Stacked;
@@ -16,6 +19,17 @@ bool isStacked(const VexaContainerObject& chart) {
 String nameOf(const VexaAxisObject& axis) { return axis.getTypeInfo()->getElementName(); }
 
 String nameOf(ValueKind kind) { return kind == ValueKind::Date ? "date" : "number"; }
+
+/// Points whose value, or category, is not of the axis's kind; `first` is the one of the first of them.
+void tellOtherKind(const LostPoints& lost, const Value& first, ValueKind kind, const VexaAxisObject& axis) {
+    if (lost.isEmpty()) return;
+    VariantArray arguments{String(axis.isCategory() ? "category" : "value"), nameOf(kind), nameOf(axis)};
+    const std::string text = first.getValue().toUtf8();
+    const std::string meant = kind == ValueKind::Date ? suggestDate(text) : suggestNumber(text);
+    if (meant.empty()) return lost.tell(kOtherKind, std::move(arguments));
+    arguments.insert(arguments.end(), {quoteForMessage(String(text)), String(meant)});
+    lost.tell(kOtherForm, std::move(arguments));
+}
 
 }  // namespace
 
@@ -72,17 +86,21 @@ void VexaPlotArea::cleanSerie(VexaSerie& serie) {
     AxisData& categories = *data_[slot(true)];
     LostPoints otherValues;
     LostPoints otherCategories;
+    Value firstValue;
+    Value firstCategory;
     serie.removeDataPoints([&](const VexaDataPoint& point) {
         categories.addText(point.getCategory());
         values.addText(point.getValue());
         const bool hasCategory = isKept(point.getCategory().getKind(), categories.kind());
         const bool hasValue = isKept(point.getValue().getKind(), values.kind());
+        if (!hasCategory && otherCategories.isEmpty()) firstCategory = point.getCategory();
         if (!hasCategory) otherCategories.add(point);
+        if (hasCategory && !hasValue && otherValues.isEmpty()) firstValue = point.getValue();
         if (hasCategory && !hasValue) otherValues.add(point);
         return !hasCategory || !hasValue;
     });
-    otherCategories.tell(kOtherKind, {String("category"), nameOf(categories.kind()), nameOf(*categoryAxis_)});
-    otherValues.tell(kOtherKind, {String("value"), nameOf(values.kind()), nameOf(*valueAxis_)});
+    tellOtherKind(otherCategories, firstCategory, categories.kind(), *categoryAxis_);
+    tellOtherKind(otherValues, firstValue, values.kind(), *valueAxis_);
 }
 
 void VexaPlotArea::measureExtremes() {

@@ -1,8 +1,14 @@
 #include "vexa/engine/VexaObject.h"
 
+#include "vexa/support/core/Log.h"
+#include "vexa/support/core/QuotedText.h"
+
 namespace VEXA {
 
 namespace {
+
+constexpr int kNotFound = 34001;
+constexpr int kNearlyFound = 34102;
 
 int rootTypeId = 0;  // the type id of no class until the root has told its own
 
@@ -35,6 +41,17 @@ XmlObjPtr<VexaObject> VexaObject::findReferencedObject(const String& reference) 
     XmlObject* const top = getVexaRoot();
     return top->isKindOf(typeID()) ? static_cast<VexaObject*>(top)->findObject(reference) : nullptr;
 }
+
+void VexaObject::tellNotFound(const String& reference) {
+    String near;
+    XmlObject* const top = Log::takesWarnings() ? getVexaRoot() : this;
+    if (top->isKindOf(typeID())) near = static_cast<VexaObject*>(top)->findNearestReference(reference);
+    VariantArray arguments{quoteForMessage(reference)};
+    if (!near.isEmpty()) arguments.emplace_back(quoteForMessage(near));
+    Log::warning(near.isEmpty() ? kNotFound : kNearlyFound, arguments, getPlace());
+}
+
+String VexaObject::findNearestReference(const String&) { return {}; }
 
 void VexaObject::setRootTypeId(int typeId) noexcept { rootTypeId = typeId; }
 

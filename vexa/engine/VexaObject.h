@@ -33,12 +33,17 @@ public:
     XmlObject* getVexaRoot();
     /// What the root (or the top of a tree without one) finds under the reference; empty when it finds nothing.
     XmlObjPtr<VexaObject> findReferencedObject(const String& reference);
+    /// Warns of a reference of this object that is not found, with the nearest one that would be.
+    void tellNotFound(const String& reference);
 
     /// Tells this class, which does not know its descendants, how to recognise the root. The root's record calls it.
     static void setRootTypeId(int typeId) noexcept;
 
 protected:
     VexaObject() noexcept = default;
+
+    /// The reference to an object that this one finds, nearest to one that it does not find; empty when none is near.
+    virtual String findNearestReference(const String& reference);
 
     TXmlAttribute<String> id_{DefaultStringAttribute};
 };

@@ -3,7 +3,10 @@
 #include <cmath>
 
 #include "vexa/engine/MissingCharacters.h"
+#include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Log.h"
+#include "vexa/support/core/NearestName.h"
+#include "vexa/support/core/QuotedText.h"
 #include "vexa/support/drawing/FontService.h"
 
 namespace VEXA {
@@ -32,21 +35,43 @@ XmlObjectTypeInfo* VexaRoot::getTypeInfoInstance() {
 void VexaRoot::render(VexaRenderContext&) {}
 
 void VexaRoot::render(SmartPtr<RenderContext> surface, float width, float height) {
+    paint(surface, width, height, [](VexaObject&, VexaRenderContext&, const auto& step) { step(); });
+}
+
+void VexaRoot::render(SmartPtr<RenderContext> surface, float width, float height, PaintWatch& watch) {
+    paint(surface, width, height,
+          [&](VexaObject& part, VexaRenderContext& context, const auto& step) { watch.paint(part, context, step); });
+}
+
+template <class Guard>
+void VexaRoot::paint(const SmartPtr<RenderContext>& surface, float width, float height, const Guard& guard) {
     FontManager::takeMissing();  // of a picture that an exception ended
     const SizeF size{getWidth(width), getHeight(height)};
     VexaRenderContext context(surface, size.width, size.height);
     const RenderContextScope scope(surface);
     context.translate(*x_, *y_);
     context.setClip(PathCommand::rectangle(-1, -1, size.width + 1, size.height + 1, 0, 0));
-    if (!(viewBox_ == DefaultViewBox)) {
-        context.applyViewBox(LengthOrPercent(Length(size.width)), LengthOrPercent(Length(size.height)), *viewBox_,
-                             getPlace());
-    }
-    tellEmptyPicture(size, surface->state().transform);
-    preRender(context, nullptr);
-    drawBackground(context);
-    renderChildren(context);
+    guard(*this, context, [&] {
+        if (!(viewBox_ == DefaultViewBox)) {
+            context.applyViewBox(LengthOrPercent(Length(size.width)), LengthOrPercent(Length(size.height)), *viewBox_,
+                                 getPlace());
+        }
+        tellEmptyPicture(size, surface->state().transform);
+    });
+    guard(*this, context, [&] { preRender(context, nullptr); });
+    guard(*this, context, [&] { drawBackground(context); });
+    paintParts(context, guard);
     tellMissingCharacters(FontManager::takeMissing(), getPlace());
+}
+
+template <class Guard>
+void VexaRoot::paintParts(VexaRenderContext& context, const Guard& guard) {
+    const auto paintPart = [&](VexaObject& part) { guard(part, context, [&] { part.render(context); }); };
+    for (const auto& body : bodies_) {
+        if (VexaAreaObject* const area = asArea(body)) paintPart(*area);
+    }
+    if (title_) paintPart(*title_);
+    if (legend_) paintPart(*legend_);
 }
 
 // The picture is drawn all the same: a surface may know what to make of it.
@@ -57,14 +82,6 @@ void VexaRoot::tellEmptyPicture(const SizeF& page, const Matrix& transform) cons
     } else if (!transform.isFinite() && !(viewBox_ == DefaultViewBox)) {
         Log::warning(34018, {String(ValueTraits<ViewBox>::print(*viewBox_))}, getPlace());
     }
-}
-
-void VexaRoot::renderChildren(VexaRenderContext& context) {
-    for (const auto& body : bodies_) {
-        if (VexaAreaObject* const area = asArea(body)) area->render(context);
-    }
-    if (title_) title_->render(context);
-    if (legend_) legend_->render(context);
 }
 
 void VexaRoot::preRender(VexaRenderContext& context, SmartPtr<VexaTheme>) {
@@ -93,10 +110,31 @@ XmlObjPtr<VexaObject> VexaRoot::findObject(const String& id) {
 
 void VexaRoot::indexDefinitions() {
     for (const auto& defs : defs_) {
-        for (const auto& definition : defs->getDefinitions())
-            definitions_.emplace(definition->getId(), definition.get());
+        for (const auto& definition : defs->getDefinitions()) {
+            const auto [first, isNew] = definitions_.emplace(definition->getId(), definition.get());
+            if (!isNew && !first->first.isEmpty()) tellRepeated(*first->second, *definition);
+        }
     }
     hasDefinitionIndex_ = true;
+}
+
+void VexaRoot::tellRepeated(const VexaObject& first, const VexaObject& second) {
+    Log::warning(34103, {quoteForMessage(second.getId()), static_cast<std::int64_t>(first.getPlace().line)},
+                 second.getPlace());
+}
+
+// With or without the # that a reference needs.
+String VexaRoot::findNearestReference(const String& reference) {
+    Vector<std::string> known;
+    for (const auto& defs : defs_) {
+        for (const auto& definition : defs->getDefinitions()) {
+            if (known.size() == Limits::kNearestNames) break;
+            if (!definition->getId().isEmpty()) known.push_back("#" + definition->getId().toUtf8());
+        }
+    }
+    const std::string text = reference.toUtf8();
+    const Vector<std::string_view> names(known.begin(), known.end());
+    return String(nearestName(text.starts_with('#') ? text : "#" + text, names));
 }
 
 VexaAreaObject* VexaRoot::asArea(const XmlObjPtr<XmlObject>& body) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <unordered_map>
 
 #include "vexa/legend/VexaLegend.h"
@@ -9,6 +10,15 @@
 #include "vexa/support/drawing/RenderContext.h"
 
 namespace VEXA {
+
+/// Stands by while a page is painted: paints each part of it, or what prepares a part, by calling `step`.
+class PaintWatch {
+public:
+    virtual ~PaintWatch() = default;
+    /// `part` is the root itself for what concerns the whole page, else a body, the title or the legend. What `step`
+    /// throws may be kept back; the other parts are painted all the same.
+    virtual void paint(VexaObject& part, VexaRenderContext& context, const std::function<void()>& step) = 0;
+};
 
 /// The top element of a chart document: owns the chart bodies, title, legend and definitions, and drives a render.
 ///
@@ -36,26 +46,40 @@ public:
     /// leads beyond all coordinates; and of characters that no font has. The surface's state is as before when it ends,
     /// also by an exception. Throws Exception 34011 for a view box without extent.
     void render(SmartPtr<RenderContext> surface, float width, float height);
+    /// The same under the eyes of a watch, for those who want to hear of all failures.
+    void render(SmartPtr<RenderContext> surface, float width, float height, PaintWatch& watch);
     /// Does nothing: a root is painted by the call above only.
     void render(VexaRenderContext& context) override;
     /// Builds the theme and hands it to the first body and to the legend, once for a tree; not at all for theme `none`.
     /// `theme` plays no part.
     void preRender(VexaRenderContext& context, SmartPtr<VexaTheme> theme) override;
     void drawBackground(VexaRenderContext& context) override;
-    /// The definition that the reference "#id" names, the first one in document order; empty when there is none.
+    /// The definition that the reference "#id" names, the first one in document order; empty when there is none. The
+    /// first call with a # warns of definitions that have the id of an earlier one.
     XmlObjPtr<VexaObject> findObject(const String& id) override;
 
     /// Plot areas, pies and spiders in document order.
     const XmlObjectList<XmlObject>& getBodies() const { return bodies_; }
     /// Empty when the document has none.
     const XmlObjPtr<VexaTitle>& getTitle() const { return title_; }
+    const XmlObjPtr<VexaLegend>& getLegend() const { return legend_; }
+    const XmlObjectList<VexaDefs>& getDefs() const { return defs_; }
+    /// Of no extent when the document gives none.
+    const ViewBox& getViewBox() const { return *viewBox_; }
+
+protected:
+    String findNearestReference(const String& reference) override;
 
 private:
+    template <class Guard>
+    void paint(const SmartPtr<RenderContext>& surface, float width, float height, const Guard& guard);
+    template <class Guard>
+    void paintParts(VexaRenderContext& context, const Guard& guard);
     static VexaAreaObject* asArea(const XmlObjPtr<XmlObject>& body);
     VexaAreaObject* firstBody() const;
-    void renderChildren(VexaRenderContext& context);
     void tellEmptyPicture(const SizeF& page, const Matrix& transform) const;
     void indexDefinitions();
+    static void tellRepeated(const VexaObject& first, const VexaObject& second);
 
     XmlObjectList<XmlObject> bodies_;
     XmlObjPtr<VexaLegend> legend_;

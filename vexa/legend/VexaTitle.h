@@ -17,7 +17,8 @@ public:
     static int typeID() { return getTypeInfoInstance()->typeID(); }
     XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
 
-    /// Paints the box and then the text from its top left corner on; what exceeds the box is cut off.
+    /// Paints the box and then the text from its top left corner on; what exceeds the box is cut off, with a
+    /// warning.
     void render(VexaRenderContext& context) override;
     /// The two attributes; percentages are of the context's reference size.
     virtual LengthOrPercent getWidth();
@@ -26,7 +27,7 @@ public:
     const String& getValue() const { return *value_; }
 
 private:
-    void drawValue(VexaRenderContext& context, float width);
+    void drawValue(VexaRenderContext& context, const SizeF& box);
 
     TXmlAttribute<Length> x_{DefaultLength};
     TXmlAttribute<Length> y_{DefaultLength};

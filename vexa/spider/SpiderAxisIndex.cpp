@@ -1,6 +1,10 @@
 #include "vexa/spider/SpiderAxisIndex.h"
 
 #include <algorithm>
+#include <string>
+
+#include "vexa/support/core/Limits.h"
+#include "vexa/support/core/NearestName.h"
 
 namespace VEXA {
 
@@ -25,6 +29,13 @@ SpiderAxisIndex::SpiderAxisIndex(const XmlObjectList<VexaSpiderAxis>& axes) {
 std::span<const SpiderAxisIndex::Entry> SpiderAxisIndex::find(const String& id) const noexcept {
     const auto [first, last] = std::equal_range(entries_.begin(), entries_.end(), id, ById());
     return {first, last};
+}
+
+String SpiderAxisIndex::findNearest(const String& id) const {
+    Vector<std::string> known;
+    for (const Entry& entry : std::span(entries_).first(std::min(entries_.size(), Limits::kNearestNames)))
+        known.push_back(entry.id.toUtf8());
+    return String(nearestName(id.toUtf8(), Vector<std::string_view>(known.begin(), known.end())));
 }
 
 }  // namespace VEXA

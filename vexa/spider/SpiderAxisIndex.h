@@ -18,6 +18,8 @@ public:
 
     /// All axes with that id, in document order.
     std::span<const Entry> find(const String& id) const noexcept;
+    /// The id nearest to one that no axis has; empty when none is near.
+    String findNearest(const String& id) const;
 
 private:
     Vector<Entry> entries_;  // by id, then by position

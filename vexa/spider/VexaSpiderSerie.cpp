@@ -8,9 +8,16 @@ namespace VEXA {
 
 namespace {
 
-void tellLost(const VexaSpiderDataPoint& point) {
-    if (!point.hasAxisId()) return Log::warning(34000, {}, point.getPlace());
-    Log::warning(34016, {quoteForMessage(point.getAxisId())}, point.getPlace());
+constexpr int kNoAxisId = 34000;
+constexpr int kUnknownAxis = 34016;
+constexpr int kNearAxis = 34104;
+
+void tellLost(const VexaSpiderDataPoint& point, const SpiderAxisIndex& axes) {
+    if (!point.hasAxisId()) return Log::warning(kNoAxisId, {}, point.getPlace());
+    const String near = Log::takesWarnings() ? axes.findNearest(point.getAxisId()) : String();
+    VariantArray arguments{quoteForMessage(point.getAxisId())};
+    if (!near.isEmpty()) arguments.emplace_back(quoteForMessage(near));
+    Log::warning(near.isEmpty() ? kUnknownAxis : kNearAxis, arguments, point.getPlace());
 }
 
 }  // namespace
@@ -77,7 +84,7 @@ void VexaSpiderSerie::render(VexaRenderContext& context, const SpiderLayout& lay
     updateRenderContext(context, ColorAspect::Normal, 0.5F);
     const Corners corners = getCorners(layout, axes);
     context.drawPolygon(corners.points, /*closed*/ true);
-    for (const VexaSpiderDataPoint* const point : corners.lost) tellLost(*point);
+    for (const VexaSpiderDataPoint* const point : corners.lost) tellLost(*point, axes);
 }
 
 }  // namespace VEXA

@@ -9,7 +9,6 @@ namespace VEXA {
 
 namespace {
 
-constexpr int kReferenceNotFound = 34001;
 constexpr int kOtherKind = 34003;
 constexpr int kTooManyStops = 34004;
 
@@ -48,7 +47,11 @@ SmartPtr<GradientObject> GradientObject::findStopSource() {
     if (href_ == DefaultStringAttribute) return this;
     const XmlObjPtr<VexaObject> found = findReferencedObject(*href_);
     if (!found.isEmpty() && found->isKindOf(getTypeInfo()->typeID())) return static_cast<GradientObject*>(found.get());
-    Log::warning(found.isEmpty() ? kReferenceNotFound : kOtherKind, {quoteForMessage(*href_)}, getPlace());
+    if (found.isEmpty()) {
+        tellNotFound(*href_);
+    } else {
+        Log::warning(kOtherKind, {quoteForMessage(*href_)}, getPlace());
+    }
     return nullptr;
 }
 

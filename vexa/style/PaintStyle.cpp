@@ -13,7 +13,6 @@ namespace VEXA {
 
 namespace {
 
-constexpr int kReferenceNotFound = 34001;
 constexpr int kNoGradient = 34002;
 constexpr int kTooManyDashes = 34005;
 
@@ -91,7 +90,7 @@ SmartPtr<Font> PaintStyle::makeFont(const FontAttributes& attributes, const Vexa
 SmartPtr<Brush> PaintStyle::makeGradient(const String& reference, ColorAspect aspect, float amount) const {
     const XmlObjPtr<VexaObject> object = owner_.findReferencedObject(reference);
     if (object.isEmpty()) {
-        Log::warning(kReferenceNotFound, {quoteForMessage(reference)}, owner_.getPlace());
+        owner_.tellNotFound(reference);
         return nullptr;
     }
     if (auto* const gradient = dynamic_cast<GradientDefinition*>(object.get()))

@@ -16,6 +16,11 @@ inline constexpr std::size_t kElements = 5'000'000;
 inline constexpr std::size_t kTagBytes = 10'000'000;
 /// Warnings told of one document; a million unknown attributes would flood the log. Test: Limits.Warnings
 inline constexpr std::size_t kWarnings = 100;
+/// Errors, warnings and hints, each, that a check tells of one document; the others are counted. Test: Limits.Problems
+inline constexpr std::size_t kCheckedProblems = 1000;
+/// Known names that one unknown name is compared with: a document of a million axes and points could ask for 1e12
+/// comparisons. Test: Limits.NearestNames
+inline constexpr std::size_t kNearestNames = 1000;
 /// Characters of the document quoted in one message. Test: Limits.Quotes
 inline constexpr std::size_t kQuotedCharacters = 80;
 /// Rings of a web. A step of 1e-6 over 1e6 would ask for 1e12 of them. Test: Limits.WebRings

@@ -4,7 +4,6 @@
 #include <mutex>
 #include <utility>
 
-#include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Object.h"
 #include "vexa/support/core/QuotedText.h"
 #include "vexa/support/core/StringTable.h"
@@ -24,7 +23,9 @@ constinit thread_local LogSink* threadSink = nullptr;
 /// The warnings of the document that this thread works on.
 struct WarningCount {
     int scopes = 0;
+    std::size_t limit = 0;
     std::size_t written = 0;
+    std::size_t leftOut = 0;
 };
 constinit thread_local WarningCount warningCount;
 
@@ -56,26 +57,38 @@ void deliver(const LogRecord& record) {
     }
 }
 
+/// One warning beyond the limit; the first one is told of.
+void leaveOut(SourcePlace place) {
+    if (warningCount.leftOut++ > 0) return;
+    constexpr int kTooManyWarnings = 3014;
+    const VariantArray limit{static_cast<std::int64_t>(warningCount.limit)};
+    deliver({Severity::Warning, kTooManyWarnings, messageText(kTooManyWarnings, limit), place});
+}
+
 }  // namespace
 
 void Log::warning(int code, const VariantArray& arguments, SourcePlace place) {
+    if (!takesWarnings()) return leaveOut(place);
     write({Severity::Warning, code, messageText(code, arguments), place});
 }
 
 void Log::write(const LogRecord& record) {
     if (record.severity == Severity::Error || warningCount.scopes == 0) return deliver(record);
-    if (warningCount.written > Limits::kWarnings) return;
-    if (++warningCount.written <= Limits::kWarnings) return deliver(record);
-    constexpr int kTooManyWarnings = 3014;
-    const VariantArray limit{static_cast<std::int64_t>(Limits::kWarnings)};
-    deliver({Severity::Warning, kTooManyWarnings, messageText(kTooManyWarnings, limit), record.place});
+    if (!takesWarnings()) return leaveOut(record.place);
+    ++warningCount.written;
+    deliver(record);
 }
 
-WarningLimitScope::WarningLimitScope() noexcept {
-    if (warningCount.scopes++ == 0) warningCount.written = 0;
+bool Log::takesWarnings() noexcept { return warningCount.scopes == 0 || warningCount.written < warningCount.limit; }
+
+WarningLimitScope::WarningLimitScope(std::size_t limit) noexcept {
+    if (warningCount.scopes == 0) warningCount = {0, limit, 0, 0};
+    ++warningCount.scopes;
 }
 
 WarningLimitScope::~WarningLimitScope() { --warningCount.scopes; }
+
+std::size_t WarningLimitScope::leftOut() const noexcept { return warningCount.leftOut; }
 
 std::shared_ptr<LogSink> Log::setSink(std::shared_ptr<LogSink> sink) {
     const std::lock_guard lock(sharedSink.value.mutex);

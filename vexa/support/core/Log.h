@@ -1,12 +1,18 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 
 #include "vexa/support/core/Exception.h"
+#include "vexa/support/core/Limits.h"
 
 namespace VEXA {
 
-enum class Severity : std::uint8_t { Warning, Error };
+enum class Severity : std::uint8_t {
+    Hint,     ///< a document does as it says, which will hardly be what was meant; only checks look for these
+    Warning,  ///< a part of the picture is missing or differs from what the document asks for
+    Error,    ///< there is no picture
+};
 
 struct LogRecord {
     Severity severity = Severity::Warning;
@@ -29,19 +35,24 @@ public:
     /// Writes message `code` with its arguments.
     static void warning(int code, const VariantArray& arguments = {}, SourcePlace place = {});
     static void write(const LogRecord& record);
+    /// Whether a warning would be told; not beyond the limit of a document, which spares the work on its text.
+    static bool takesWarnings() noexcept;
 
     /// The sink of all threads without one of their own; empty restores the default. Returns the one before.
     static std::shared_ptr<LogSink> setSink(std::shared_ptr<LogSink> sink);
 };
 
-/// Bounds the warnings of one document: while the scope lives, this thread writes Limits::kWarnings of them, then one
-/// that says so, then none. A scope inside another one counts on with it.
+/// Bounds the warnings of one document: while the scope lives, this thread writes `limit` of them, then one that says
+/// so (message 3014), then none. A scope inside another one counts on with it.
 class WarningLimitScope {
 public:
-    WarningLimitScope() noexcept;
+    explicit WarningLimitScope(std::size_t limit = Limits::kWarnings) noexcept;
     ~WarningLimitScope();
     WarningLimitScope(const WarningLimitScope&) = delete;
     WarningLimitScope& operator=(const WarningLimitScope&) = delete;
+
+    /// How many warnings were not written.
+    std::size_t leftOut() const noexcept;
 };
 
 /// Sends what this thread logs to `sink` while the scope lives, so that the messages of two documents do not mix.

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include "vexa/support/core/Limits.h"
+
 namespace VEXA {
 
 namespace {
@@ -45,7 +47,7 @@ std::string_view nearestName(std::string_view wanted, std::span<const std::strin
     if (wanted.size() > kMaxLength) return {};
     std::string_view nearest;
     std::size_t limit = std::clamp<std::size_t>(wanted.size() / 3, 1, 3);
-    for (const std::string_view name : known) {
+    for (const std::string_view name : known.first(std::min(known.size(), Limits::kNearestNames))) {
         const std::size_t shorter = std::min(name.size(), wanted.size());
         const std::size_t longer = std::max(name.size(), wanted.size());
         if (longer > kMaxLength || longer - shorter > limit) continue;

@@ -53,7 +53,7 @@ constexpr Message kMessages[] = {
     {3015, R"(the encoding "{0}" is unknown; save the document as UTF-8, UTF-16, ISO-8859-1 or US-ASCII)"},
     {3016, R"(element "{0}" is not in the chart namespace; add xmlns="{1}" to the top element)"},
     {3017, "malformed XML: {0}; <{1}> of line {2} is open here"},
-    {3018, R"(element "{0}" may not stand in "{1}" and is skipped; it belongs in {2})"},
+    {3018, R"(element "{0}" may not stand in "{1}" and is skipped; write it inside {2})"},
     {3019, R"(a second "{0}" of "{1}" is ignored, the first one is kept; write it once, without a prefix)"},
     {3020, R"(element "{0}" may not stand in "{1}" and is skipped; no element takes it, remove it)"},
 
@@ -146,6 +146,47 @@ constexpr Message kMessages[] = {
     {34076,
      R"(the picture has no room for the further labels of the "{0}", they are left out; write a shorter "format")"},
 
+    // What a name, a value or a reference was meant to be.
+    {34100, R"({0}: attribute "{1}": "{2}" is not {3}; did you mean "{4}"?)"},
+    {34101, R"(element "{0}" is in the namespace "{2}" and not in that of charts; write xmlns="{1}")"},
+    {34102, R"(reference "{0}" is not found among the definitions, rendering goes on without it; did you mean "{1}"?)"},
+    {34103,
+     R"(a second definition "{0}" is ignored, references find the one of line {1}; give one of them another id)"},
+    {34104, R"(no axis of the spider has the id "{0}", the data point is left out; did you mean "{1}"?)"},
+    {34105, R"(the title is cut, {0} of its lines show no more than in part; give it more "height" or "width", or a )"
+            R"(smaller "font-size")"},
+    {34106,
+     R"(data points whose {1} is no {2} are left out, {0} of this series, this one first; write "{5}" for "{4}")"},
+
+    // What only a check tells: warnings.
+    {34110, R"(the root holds nothing to draw; add a "plot-area", a "pie" or a "spider")"},
+    {34111, R"(the plot area has no series; add a "serie" with data points to a bar-chart, line-chart or area-chart)"},
+    {34112, R"(the series has no data points, nothing of it is drawn; add a "{0}" for each value)"},
+    {34113, R"(the spider has no {0}, only its background is drawn; add one)"},
+    {34114, R"("{0}" of the "{1}" is {2}, which is below 0; write a length of 0 or more)"},
+    {34115, R"(the document is empty; a chart document starts with <root xmlns="{0}">)"},
+    {34116, R"(the top element is "{0}"; put it into a <root xmlns="{1}">)"},
+    {34117, "{0} more problems of this document are left out; correct these first"},
+    {34118, R"(a second axis has the id "{0}", data points show on both; give one of them another id)"},
+
+    // What only a check tells: hints.
+    {34120, R"(the categories are years, but count as numbers on an axis from {0} to {1}; write data-type="text" for )"
+            R"(the "category-axis", or give its "display-values" a "min")"},
+    {34121, R"(the legend is docked at the {0} and as {1} as the page, it covers the chart; give it a "{2}")"},
+    {34122,
+     R"(the legend is {0} by {1} px, which is more than the page of {2} by {3} px; give it less "width" or "height")"},
+    {34123, R"(bars at the ends of the "category-axis" are cut in half; give it <display-values )"
+            R"(placement="between-ticks"/>)"},
+    {34124,
+     R"(with a view box the "width" and the "height" of the root count in its units, too: {0} by {1} on a view box )"
+     R"(of {2} by {3}, so {4}; write them in percent)"},
+    {34125, R"(the grid lines have no stroke, none shows; write a "stroke", or leave <grid-lines> out)"},
+    {34126, R"(the web has no width, nothing of it shows; write a "web-stroke-width" above 0, or draw-web="false")"},
+    {34127, R"(nothing of this {0} shows, it has neither "fill" nor "stroke"; write one of them)"},
+    {34128, R"("{0}" counts as a text and not as a date; write "{1}")"},
+    {34129, R"("{0}" counts as a text and not as a number, so the "value-axis" shows texts; write "{1}")"},
+    {34130, R"(the line of this series has no stroke, nothing of it shows; write a "stroke")"},
+
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
     {35001, R"(a picture cannot be drawn at a scale of {0}; take one above 0)"},
@@ -156,6 +197,10 @@ constexpr Message kMessages[] = {
     {35004, R"(the font "{0}" was measured but cannot be drawn with; take another font)"},
     {35005, "a page of {0} by {1} px is too large for a PDF, which has at most {2} px a side; make the chart smaller"},
     {35006, "the library libpng failed: {0}"},
+
+    // The program.
+    {35100, "there is not enough memory"},
+    {35101, "no picture is written, because there are warnings and --strict is given; correct them, or leave it out"},
 };
 
 static_assert(std::is_sorted(std::begin(kMessages), std::end(kMessages),

@@ -167,7 +167,15 @@ static_assert(std::ranges::is_sorted(kColorNames, {}, &ColorName::name));
 
 constexpr std::size_t kLongestName = 20;  // lightgoldenrodyellow
 
+constexpr auto kNames = [] {
+    std::array<std::string_view, std::size(kColorNames)> names;
+    std::ranges::transform(kColorNames, names.begin(), &ColorName::name);
+    return names;
+}();
+
 }  // namespace
+
+std::span<const std::string_view> colorNames() noexcept { return kNames; }
 
 std::optional<std::uint32_t> findColorName(std::string_view name) noexcept {
     if (name.size() > kLongestName) return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,9 @@ std::optional<std::uint32_t> parseColor(std::string_view text) noexcept;
 
 /// 0xRRGGBB of a CSS colour name in any case.
 std::optional<std::uint32_t> findColorName(std::string_view name) noexcept;
+
+/// All CSS colour names, in alphabetical order.
+std::span<const std::string_view> colorNames() noexcept;
 
 SmartPtr<Color> makeColor(std::uint32_t rgb);
 

@@ -3,6 +3,7 @@
 #include <concepts>
 #include <utility>
 
+#include "vexa/support/values/Suggestion.h"
 #include "vexa/support/values/ValueTraits.h"
 #include "vexa/support/xml/ElementPool.h"
 #include "vexa/support/xml/XmlAttribute.h"
@@ -68,6 +69,12 @@ public:
         return ValueTraits<T>::print(static_cast<const AttributeBox<T>&>(box).value);
     }
     std::string_view expectation() const noexcept override { return ValueTraits<T>::expectation(); }
+    std::string suggest(std::string_view text) const override {
+        return suggestValue(text, ValueTraits<T>::name(), [](std::string_view other) {
+            T value{};
+            return ValueTraits<T>::parse(other, value);
+        });
+    }
     std::string_view name() const noexcept override { return ValueTraits<T>::name(); }
 };
 

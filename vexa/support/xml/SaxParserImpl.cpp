@@ -39,17 +39,18 @@ bool isRepeated(std::span<const XmlAttributeToken> tokens, const XmlNamespace& s
     });
 }
 
-/// The elements that take this child, for messages: `"a", "b"`; empty when none does.
+/// The elements that take this child, for messages: `<a>, <b> or <c>`; empty when none does.
 String parentsOf(const XmlKey& child) {
-    constexpr int kNamed = 4;
-    std::string names;
-    int count = 0;
+    Vector<std::string_view> parents;
     for (const XmlObjectTypeInfo* const parent : XmlObjectFactory::instance().typeInfos()) {
         const XmlElementTypeInfo* const member = parent->isAbstract() ? nullptr : parent->findElement(child.name);
-        if (member == nullptr || member->getNamespace().uri != child.namespaceUri) continue;
-        if (count > 0) names += ", ";
-        if (++count > kNamed) return String(names + "\u2026");
-        names.append("\"").append(parent->getKey().name).append("\"");
+        if (member != nullptr && member->getNamespace().uri == child.namespaceUri)
+            parents.push_back(parent->getKey().name);
+    }
+    std::string names;
+    for (std::size_t i = 0; i < parents.size(); ++i) {
+        if (i > 0) names += i + 1 == parents.size() ? " or " : ", ";
+        names.append("<").append(parents[i]).append(">");
     }
     return String(names);
 }
@@ -64,6 +65,7 @@ public:
           inheritAttributes_(inheritAttributes),
           collectText_(collectText),
           monitor_(monitor),
+          limit_(monitor != nullptr ? monitor->getLimit() : Limits::kWarnings),
           encoding_(std::move(encoding)) {}
 
     void begin(SmartPtr<IO::Stream> stream) {
@@ -82,13 +84,12 @@ public:
     SourcePlace getPlace() const override { return tokenizer_->getPlace(); }
 
     void warn(int code, const VariantArray& arguments, SourcePlace place) override {
-        if (warnings_ > Limits::kWarnings) return;
-        if (++warnings_ > Limits::kWarnings) {
-            tell(Severity::Warning, 3014, {std::int64_t{Limits::kWarnings}}, place);
-        } else {
-            tell(Severity::Warning, code, arguments, place);
-        }
+        if (!takesWarnings()) return leaveOutWarning(place);
+        ++warnings_;
+        tell(Severity::Warning, code, arguments, place);
     }
+
+    bool isCutOff() const noexcept { return failed_; }
 
     void startElement(const XmlNameToken& name, std::span<const XmlAttributeToken> attributes) override {
         if (frames_.size() + skippedDepth_ >= Limits::kNestingDepth) stop(3010, Limits::kNestingDepth);
@@ -235,31 +236,42 @@ private:
     XmlValueBox* parse(const XmlValueType& type, const XmlObjectTypeInfo& info, const XmlAttributeToken& token) {
         if (token.value.size() > Limits::kTagBytes) stop(3013, Limits::kTagBytes);
         XmlValueBox* const value = type.parse(token.value);
-        if (value == nullptr) {
-            fail(3003,
-                 {info.getElementName(), String(token.name.local), quoted(token.value), String(type.expectation())});
-        }
+        if (value == nullptr) tellNoValue(type, info, token);
         return value;
+    }
+
+    void tellNoValue(const XmlValueType& type, const XmlObjectTypeInfo& info, const XmlAttributeToken& token) {
+        if (!takesErrors()) return monitor_->leaveOut(Severity::Error);
+        const std::string meant = type.suggest(token.value);
+        VariantArray arguments{info.getElementName(), String(token.name.local), quoted(token.value),
+                               String(type.expectation())};
+        if (!meant.empty()) arguments.emplace_back(quoted(meant));
+        fail(meant.empty() ? 3003 : 34100, std::move(arguments));
     }
 
     void tellUnknownTop(const XmlNameToken& name) {
         const XmlNamespace& space = vocabulary();
         if (name.uri != space.uri && XmlObjectFactory::instance().findTypeInfo({space.uri, name.local}) != nullptr) {
-            fail(3016, {quoted(name.local), String(space.uri)});
+            tellOtherNamespace(/*refuse*/ true, name, space);
         } else {
             fail(3002, {quoted(name.local), String(space.uri)});
         }
+    }
+
+    /// A name that is known in `space`.
+    void tellOtherNamespace(bool refuse, const XmlNameToken& name, const XmlNamespace& space) {
+        VariantArray arguments{quoted(name.local), String(space.uri)};
+        if (!name.uri.empty()) arguments.emplace_back(quoted(name.uri));
+        problem(refuse, name.uri.empty() ? 3016 : 34101, std::move(arguments));
     }
 
     void tellUnknownElement(const XmlNameToken& name) {
         const XmlObjectTypeInfo& info = *frames_.back().info;
         const bool refuse = unrecognized_ == UnrecognizedElementTreatment::Refuse;
         const bool isSilent = unrecognized_ == UnrecognizedElementTreatment::SkipSilently;
-        if (isSilent || (!refuse && warnings_ > Limits::kWarnings)) return;
-        if (info.findElement(name.local) != nullptr) {
-            problem(refuse, 3016, {quoted(name.local), String(info.getNamespace().uri)});
-            return;
-        }
+        if (isSilent) return;
+        if (!refuse && !takesWarnings()) return leaveOutWarning(getPlace());
+        if (info.findElement(name.local) != nullptr) return tellOtherNamespace(refuse, name, info.getNamespace());
         if (XmlObjectFactory::instance().findTypeInfo({name.uri, name.local}) != nullptr) {
             tellMisplacedElement(refuse, name);
             return;
@@ -278,6 +290,7 @@ private:
     }
 
     void tellUnknownAttribute(const XmlObjectTypeInfo& info, std::string_view name) {
+        if (!takesWarnings()) return leaveOutWarning(getPlace());
         Vector<std::string_view> known = namesOf(info.attributes());
         for (const auto& inheritable : XmlObjectFactory::instance().inheritableNames())
             known.push_back(inheritable.name);
@@ -305,8 +318,18 @@ private:
     /// Told to the monitor, which collects errors; thrown when there is none.
     void fail(int code, VariantArray arguments) {
         if (monitor_ == nullptr) raise(Exception(code, std::move(arguments)), "SaxParserImpl", __LINE__, getPlace());
-        if (errors_ < Limits::kWarnings) tell(Severity::Error, code, arguments, getPlace());
+        if (!takesErrors()) return monitor_->leaveOut(Severity::Error);
         ++errors_;
+        tell(Severity::Error, code, arguments, getPlace());
+    }
+
+    bool takesErrors() const noexcept { return monitor_ == nullptr || errors_ < limit_; }
+    bool takesWarnings() const noexcept { return warnings_ < limit_; }
+
+    void leaveOutWarning(SourcePlace place) {
+        if (!hasToldLimit_) tell(Severity::Warning, 3014, {static_cast<std::int64_t>(limit_)}, place);
+        hasToldLimit_ = true;
+        if (monitor_ != nullptr) monitor_->leaveOut(Severity::Warning);
     }
 
     /// A limit: nothing after it is read.
@@ -328,7 +351,9 @@ private:
     bool collectText_;
     bool pauseAtTop_ = false;
     bool failed_ = false;
+    bool hasToldLimit_ = false;
     ISAXParserMonitor* monitor_;
+    std::size_t limit_;
     String encoding_;
     ElementPool pool_;
     std::unique_ptr<XmlTokenizer> tokenizer_;
@@ -360,5 +385,7 @@ void SaxParserImpl::parseChildContent(SmartPtr<XmlObject> element) {
     if (!element) throwEmptySmartPtr();
     body_->readContent();
 }
+
+bool SaxParserImpl::isCutOff() const noexcept { return body_->isCutOff(); }
 
 }  // namespace VEXA

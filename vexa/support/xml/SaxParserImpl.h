@@ -14,6 +14,10 @@ class ISAXParserMonitor {
 public:
     virtual ~ISAXParserMonitor() = default;
     virtual void report(const LogRecord& problem) = 0;
+    /// How many errors, and how many warnings, it is told. The first warning beyond is message 3014.
+    virtual std::size_t getLimit() const noexcept { return Limits::kWarnings; }
+    /// One more problem, which is not told.
+    virtual void leaveOut(Severity) {}
 };
 
 /// What to do with an element that no class knows.
@@ -57,6 +61,8 @@ public:
     XmlObjPtr<XmlObject> parseNextChild(SmartPtr<XmlObject> parent, bool withContent);
     /// Reads the rest of the document into the top element.
     void parseChildContent(SmartPtr<XmlObject> element);
+    /// Whether an error ended the reading before the document did; what was open then lacks content.
+    bool isCutOff() const noexcept;
 
 private:
     class Body;

@@ -27,6 +27,9 @@ public:
     virtual std::string print(const XmlValueBox& box) const = 0;
     /// For messages: "a length (write a number with px, pt, pc, mm, cm or in)".
     virtual std::string_view expectation() const noexcept = 0;
+    /// What a text that is no such value was most likely meant to be, "12.5px" for "12,5 px"; empty when nothing is
+    /// near.
+    virtual std::string suggest(std::string_view text) const = 0;
     /// The type's name, "Length".
     virtual std::string_view name() const noexcept = 0;
 
