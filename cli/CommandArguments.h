@@ -4,11 +4,16 @@
 
 #include "cli/FontsOptions.h"
 #include "cli/RenderOptions.h"
+#include "cli/check/CheckOptions.h"
 
 namespace VEXA::Cli {
+
+/// The most documents that may be worked on at once.
+inline constexpr unsigned kMaxJobs = 1024;
 
 /// Each gives a command its options and its help; what is typed goes to `options`.
 void addRenderOptions(CLI::App& command, RenderOptions& options);
 void addFontsOptions(CLI::App& command, FontsOptions& options);
+void addCheckOptions(CLI::App& command, CheckOptions& options);
 
 }  // namespace VEXA::Cli

@@ -29,25 +29,34 @@ Answer answerTo(const CLI::App& app, const CLI::ParseError& end) {
 CommandLine parseCommandLine(int count, const char* const* arguments) {
     RenderOptions renderOptions;
     FontsOptions fontsOptions;
+    CheckOptions checkOptions;
     CLI::App app("Draws charts described in XML.", "vexa");
     app.set_version_flag("--version", "vexa " VEXA_VERSION, "Show the version");
     app.set_help_flag("-h,--help", "Show this help");
     app.require_subcommand(0, 1);
     app.footer(kFooter);
-    CLI::App& render = *app.add_subcommand("render", "Draw chart documents as SVG, PNG, PDF or display lists");
-    CLI::App& fonts = *app.add_subcommand("fonts", "Tell which fonts draw a text");
-    // Setting up options takes as long as drawing some charts, so only the command that is typed gets its own.
+    // Setting up commands takes as long as drawing some charts, so the one that is typed is set up alone.
     const std::string_view typed = count > 1 ? arguments[1] : "";
-    if (typed == "render") addRenderOptions(render, renderOptions);
-    if (typed == "fonts") addFontsOptions(fonts, fontsOptions);
+    const bool isKnown = typed == "render" || typed == "check" || typed == "fonts";
+    const auto add = [&](const char* name, const char* purpose) {
+        return isKnown && typed != name ? nullptr : app.add_subcommand(name, purpose);
+    };
+    CLI::App* const render = add("render", "Draw chart documents as SVG, PNG, PDF or display lists");
+    CLI::App* const check = add("check", "Tell all that is wrong with chart documents");
+    CLI::App* const fonts = add("fonts", "Tell which fonts draw a text");
+    if (typed == "render") addRenderOptions(*render, renderOptions);
+    if (typed == "check") addCheckOptions(*check, checkOptions);
+    if (typed == "fonts") addFontsOptions(*fonts, fontsOptions);
     try {
         app.parse(count, arguments);
     } catch (const CLI::ParseError& end) {
-        return {{}, {}, answerTo(app, end)};
+        return {{}, {}, {}, answerTo(app, end)};
     }
-    if (render.parsed()) return {std::move(renderOptions), {}, {}};
-    if (fonts.parsed()) return {{}, std::move(fontsOptions), {}};
-    return {{}, {}, {app.help(), kWrongUsage}};
+    const auto isTyped = [](const CLI::App* command) { return command != nullptr && command->parsed(); };
+    if (isTyped(render)) return {std::move(renderOptions), {}, {}, {}};
+    if (isTyped(fonts)) return {{}, std::move(fontsOptions), {}, {}};
+    if (isTyped(check)) return {{}, {}, std::move(checkOptions), {}};
+    return {{}, {}, {}, {app.help(), kWrongUsage}};
 }
 
 }  // namespace VEXA::Cli

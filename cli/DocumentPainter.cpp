@@ -6,14 +6,13 @@
 #include "cli/DocumentStream.h"
 #include "cli/RenderOptions.h"
 #include "vexa/support/core/Exception.h"
+#include "vexa/support/core/StringTable.h"
 
 namespace VEXA::Cli {
 namespace {
 
-SmartPtr<IO::Stream> openInput(const std::string& input) {
-    if (input == kStandardStream) return IO::FileStream::standardInput();
-    return make<IO::FileStream>(input, IO::FileStream::Mode::Read);
-}
+constexpr int kNoMemory = 35100;
+constexpr int kStrict = 35101;
 
 void writeOutput(const std::string& output, std::string_view bytes) {
     if (output != kStandardStream) return IO::writeWholeFile(output, bytes);
@@ -46,7 +45,7 @@ bool succeeds(Step step, Tell tell) {
     } catch (const Exception& error) {
         tell(placeOf(error), error.what());
     } catch (const std::bad_alloc&) {
-        tell(SourcePlace{}, "there is not enough memory");
+        tell(SourcePlace{}, findMessage(kNoMemory));
     } catch (const std::exception& error) {
         tell(SourcePlace{}, error.what());
     }
@@ -55,13 +54,22 @@ bool succeeds(Step step, Tell tell) {
 
 }  // namespace
 
-bool paintDocument(const std::string& input, const Painter& paint, const std::function<SmartPtr<RenderContext>()>& open,
+SmartPtr<IO::Stream> openInput(const std::string& input) {
+    if (input == kStandardStream) return IO::FileStream::standardInput();
+    return make<IO::FileStream>(input, IO::FileStream::Mode::Read);
+}
+
+bool paintDocument(const RenderJob& job, const Painter& paint, const std::function<SmartPtr<RenderContext>()>& open,
                    MessageCollector& messages) {
     const auto load = [&] {
-        const auto document = make<DocumentStream>(openInput(input));
+        const auto document = make<DocumentStream>(openInput(job.input));
         paintFrom(*document, paint, open());
     };
-    return succeeds(load, [&](SourcePlace place, std::string_view text) { messages.addError(place, text); });
+    if (!succeeds(load, [&](SourcePlace place, std::string_view text) { messages.addError(place, text); }))
+        return false;
+    if (!job.isStrict || !messages.hasWarnings()) return true;
+    messages.addError(SourcePlace{}, findMessage(kStrict));
+    return false;
 }
 
 bool writePicture(const std::string& output, const IO::MemoryStream& picture, const std::function<void()>& finish,

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cli/Messages.h"
+#include "cli/RenderPlan.h"
 #include "vexa/support/core/Stream.h"
 #include "vexa/support/drawing/RenderContext.h"
 
@@ -18,8 +19,12 @@ struct RenderResult {
     std::string messages;  ///< its warnings and errors, whole lines
 };
 
-/// Draws the document on the surface that `open` gives. False when something failed, which `messages` then tells.
-bool paintDocument(const std::string& input, const Painter& paint, const std::function<SmartPtr<RenderContext>()>& open,
+/// The document of that name; "-" is standard input. Throws Exception when it cannot be read.
+SmartPtr<IO::Stream> openInput(const std::string& input);
+
+/// Draws the document of a job on the surface that `open` gives. False when something failed, which `messages` then
+/// tells; for a strict job that is a warning, too.
+bool paintDocument(const RenderJob& job, const Painter& paint, const std::function<SmartPtr<RenderContext>()>& open,
                    MessageCollector& messages);
 
 /// Has `finish` complete a picture and writes its bytes, whole or not at all. False when something failed, which

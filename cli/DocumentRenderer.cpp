@@ -7,8 +7,8 @@ RenderResult renderDocument(const RenderJob& job, const Painter& paint) {
     const LogScope scope(messages);
     const auto picture = make<IO::MemoryStream>();  // in memory, so that a document that fails leaves no file
     const auto open = [&] { return makeSurface(job.format, picture, job.picture); };
-    const bool done = paintDocument(job.input, paint, open, messages) && writePicture(
-                                                                             job.output, *picture, [] {}, messages);
+    const bool done = paintDocument(job, paint, open, messages) && writePicture(
+                                                                       job.output, *picture, [] {}, messages);
     return {!done, messages.takeLines()};
 }
 

@@ -71,7 +71,7 @@ void reportInOrder(std::size_t count, JobQueue& queue, const JobListener& listen
             listener.report(reported, *std::move(result));
             if (++reported == count) break;
         }
-        listener.progress(done);
+        listener.progress(std::max(done, reported));  // what ended meanwhile may be reported, too
     }
 }
 

@@ -16,7 +16,7 @@ RenderResult JoinedRenderer::drawNext() {
     MessageCollector messages(inputName(job.input));
     const LogScope scope(messages);
     const bool done = paintDocument(
-        job.input, paint_, [&] { return surface(); }, messages);
+        job, paint_, [&] { return surface(); }, messages);
     if (!done) ++failed_;
     return {!done, messages.takeLines()};
 }

@@ -11,15 +11,28 @@ std::string inputName(const std::string& file) { return file == kStandardStream 
 
 std::string outputName(const std::string& file) { return file == kStandardStream ? "<stdout>" : file; }
 
+std::string_view severityName(Severity severity) noexcept {
+    switch (severity) {
+        case Severity::Hint:
+            return "hint";
+        case Severity::Warning:
+            return "warning";
+        case Severity::Error:
+            break;
+    }
+    return "error";
+}
+
 std::string messageLine(std::string_view file, SourcePlace place, Severity severity, std::string_view text) {
     std::string line = printable(file);
     if (place.isKnown()) line += ":" + std::to_string(place.line) + ":" + std::to_string(place.column);
-    line += severity == Severity::Error ? ": error: " : ": warning: ";
+    line.append(": ").append(severityName(severity)).append(": ");
     return line + printable(text) + '\n';
 }
 
 void MessageCollector::write(const LogRecord& record) {
     if (record.severity == Severity::Error) return;
+    hasWarnings_ = true;
     lines_ += messageLine(file_, record.place, record.severity, record.message.toUtf8());
 }
 

@@ -14,6 +14,9 @@ std::string outputName(const std::string& file);
 /// One line of text with its invisible characters as escapes, so that a name in it cannot steer a terminal.
 std::string printable(std::string_view text);
 
+/// "error", "warning" or "hint".
+std::string_view severityName(Severity severity) noexcept;
+
 /// `file:line:column: warning: text` with a line feed; without the place when it is not known. All of it is
 /// printable.
 std::string messageLine(std::string_view file, SourcePlace place, Severity severity, std::string_view text);
@@ -29,11 +32,13 @@ public:
     /// An error about another file than the document.
     void addError(std::string_view file, std::string_view text);
 
+    bool hasWarnings() const noexcept { return hasWarnings_; }
     std::string takeLines() noexcept { return std::move(lines_); }
 
 private:
     std::string file_;
     std::string lines_;
+    bool hasWarnings_ = false;
 };
 
 }  // namespace VEXA::Cli

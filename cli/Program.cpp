@@ -8,6 +8,7 @@
 #include "cli/FontsCommand.h"
 #include "cli/Messages.h"
 #include "cli/RenderCommand.h"
+#include "cli/check/CheckCommand.h"
 
 namespace VEXA::Cli {
 namespace {
@@ -29,6 +30,7 @@ int runProgram(int count, const char* const* arguments, const Painter& paint) {
     try {
         const CommandLine line = parseCommandLine(count, arguments);
         if (line.render) return render(*line.render, paint, console);
+        if (line.check) return check(*line.check, *IO::FileStream::standardOutput(), console);
         return show(line.fonts ? listFonts(*line.fonts) : line.answer, console);
     } catch (const std::exception& error) {  // fonts that are not there, output that cannot be written, no memory
         console.write("vexa: error: " + printable(error.what()) + "\n");

@@ -6,8 +6,6 @@
 namespace VEXA::Cli {
 namespace {
 
-constexpr unsigned kMaxJobs = 1024;
-
 constexpr const char* kFooter = R"(Formats:
   svg   a scalable picture with real text; what --out-dir and -o - write unless --to says otherwise
   png   pixels; --scale 2 for twice as many each way, --dpi 300 for print; transparent without --background
@@ -20,9 +18,11 @@ Examples:
   vexa render charts/*.xml --out-dir out --jobs 4    many at once: out/NAME.svg for charts/NAME.xml
   vexa render may.xml june.xml -o report.pdf         a page for each, in this order
   vexa render chart.xml -o chart.png --dpi 300 --background white
+  vexa render --strict chart.xml -o chart.svg        no picture rather than one with a warning
 
 Messages go to standard error, one a line: FILE:LINE:COLUMN: warning: TEXT, or error. A file is
 written whole or not at all; a document that fails leaves none, nor does a PDF that lacks a page.
+With --strict a document with a warning fails. vexa check tells all problems of a document at once.
 
 Exit status: 0 all is drawn, 1 a document failed (the others are drawn), 2 the command line is wrong.)";
 
@@ -57,6 +57,7 @@ void addRenderOptions(CLI::App& command, RenderOptions& options) {
     command.add_option("-j,--jobs", options.jobs, "Files drawn at once; else as many as there are cores")
         ->check(jobs)
         ->type_name("N");
+    command.add_flag("--strict", options.isStrict, "Fail for warnings as for errors: such a document gives no picture");
     addPictureOptions(command, options);
     command.footer(kFooter);
 }

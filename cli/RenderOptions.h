@@ -20,6 +20,7 @@ struct RenderOptions {
     std::optional<std::string> dpi = std::nullopt;
     std::optional<std::string> background = std::nullopt;
     std::vector<std::string> fontDirectories = {};
+    bool isStrict = false;
 };
 
 }  // namespace VEXA::Cli

@@ -67,7 +67,7 @@ std::string outputOf(const std::string& input, const RenderOptions& options, Out
 void addJobs(const RenderOptions& options, OutputFormat format, const PictureOptions& picture, RenderPlan& plan) {
     plan.jobs.reserve(options.inputs.size());
     for (const std::string& input : options.inputs) {
-        plan.jobs.push_back({input, outputOf(input, options, format), format, picture});
+        plan.jobs.push_back({input, outputOf(input, options, format), format, picture, options.isStrict});
     }
 }
 

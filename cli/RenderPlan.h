@@ -14,6 +14,7 @@ struct RenderJob {
     std::string output;
     OutputFormat format = OutputFormat::Svg;
     PictureOptions picture;
+    bool isStrict = false;  ///< a document with a warning is not drawn
 };
 
 /// What a command line asks for: the jobs in the order of the inputs, or what is wrong with it.

@@ -54,6 +54,20 @@ TEST(CommandLine, ReadsEveryOptionOfFonts) {
     EXPECT_EQ(parse({"fonts"}).fonts->family, "sans-serif") << "of a document that asks for none";
 }
 
+TEST(CommandLine, ReadsEveryOptionOfCheck) {
+    const CommandLine line =
+        parse({"check", "a", "--strict", "--diagnostics", "json", "-j", "3", "--font-dir", "f", "-", "render"});
+    ASSERT_TRUE(line.check) << line.answer.text;
+    EXPECT_EQ(line.check->inputs, (std::vector<std::string>{"a", "-", "render"})) << "the name of a command is a file";
+    EXPECT_EQ(line.check->fontDirectories, (std::vector<std::string>{"f"}));
+    EXPECT_EQ(line.check->diagnostics, "json");
+    EXPECT_EQ(line.check->jobs, 3U);
+    EXPECT_TRUE(line.check->isStrict);
+    EXPECT_FALSE(parse({"check", "a"}).check->isStrict);
+    EXPECT_TRUE(parse({"render", "a", "--strict", "-o", "b"}).render->isStrict);
+    EXPECT_FALSE(parse({"render", "a", "-o", "b"}).render->isStrict);
+}
+
 TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
     const std::tuple<std::vector<const char*>, ExitStatus, const char*, const char*> cases[] = {
         {{}, kWrongUsage, "render", "the bare program lists its commands, and is no success"},
@@ -61,6 +75,8 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
         {{"--version"}, kDone, "vexa " VEXA_VERSION "\n", "the version of the build"},
         {{"render", "--help"}, kDone, "Exit status", "help of the command, not of the program"},
         {{"fonts", "--help"}, kDone, "vexa fonts --family", "help of the other command"},
+        {{"check", "--help"}, kDone, "hints never do", "help of the third one"},
+        {{"--help"}, kDone, "check", "the help of the program names all commands"},
         {{"draw"}, kWrongUsage, "vexa: ", "an unknown command"},
         {{"render", "a.xml", "--colour"}, kWrongUsage, "vexa render: ", "an unknown option"},
         {{"render", "a.xml", "--out"}, kWrongUsage, "--out", "an abbreviation is not guessed"},
@@ -73,7 +89,7 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
     };
     for (const auto& [arguments, status, part, why] : cases) {
         const CommandLine line = parse(arguments);
-        EXPECT_FALSE(line.render || line.fonts) << why;
+        EXPECT_FALSE(line.render || line.fonts || line.check) << why;
         EXPECT_EQ(line.answer.status, status) << why;
         EXPECT_NE(line.answer.text.find(part), std::string::npos) << why << "\n" << line.answer.text;
     }

@@ -100,6 +100,20 @@ TEST(RenderCommand, WarnsAndSucceeds) {
     EXPECT_NE(directory.read("a.svg").find("<svg"), std::string::npos);
 }
 
+TEST(RenderCommand, FailsForWarningsWhenStrict) {
+    const TestDirectory directory;
+    const std::string warns = directory.write("a.xml", "warns");
+    const std::string fine = directory.write("b.xml", "fine");
+    RenderOptions options{{warns, fine}, "", directory.path("out"), "", 1};
+    options.isStrict = true;
+    const Outcome outcome = run(options);
+    EXPECT_EQ(outcome.status, kFailed);
+    EXPECT_TRUE(outcome.messages.starts_with(warns + ":3:4: warning: odd\n" + warns + ": error: no picture"))
+        << outcome.messages;
+    EXPECT_FALSE(directory.has("out/a.svg"));
+    EXPECT_TRUE(directory.has("out/b.svg")) << "nothing is wrong with the other one";
+}
+
 TEST(RenderCommand, TellsOfFilesThatCannotBeReadOrWritten) {
     const TestDirectory directory;
     const std::string chart = directory.write("a.xml", "fine");

@@ -89,6 +89,26 @@ TEST(Log, TheInnermostSinkOfTheThreadIsTold) {
     EXPECT_EQ(second->messages, "replaced;");
 }
 
+TEST(Log, CountsWarningsBeyondTheLimitOfADocument) {
+    Recorder recorder;
+    const LogScope scope(recorder);
+    {
+        const WarningLimitScope limit(2);
+        const WarningLimitScope inner;  // counts on with the outer one
+        warnAbout("1");
+        EXPECT_TRUE(Log::takesWarnings());
+        warnAbout("2");
+        EXPECT_FALSE(Log::takesWarnings());
+        warnAbout("3", {4, 5});
+        warnAbout("4");
+        EXPECT_EQ(limit.leftOut(), 2U);
+    }
+    EXPECT_EQ(recorder.messages,
+              "1;2;more than 2 warnings, further ones of this document are left out; correct these first;");
+    EXPECT_EQ(recorder.last.place, (SourcePlace{4, 5}));
+    EXPECT_TRUE(Log::takesWarnings()) << "the document is done";
+}
+
 TEST(Log, ChangesItsSinkWhileOthersLog) {
     Log::setSink(std::make_shared<Recorder>());
     std::thread other([] {

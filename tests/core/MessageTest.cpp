@@ -90,5 +90,13 @@ TEST(NearestName, GuessesWhatWasMeant) {
     EXPECT_EQ(nearestName("fill", {}), "") << "nothing is known";
 }
 
+TEST(Limits, NearestNames) {
+    std::vector<std::string_view> known(Limits::kNearestNames, "other");
+    known.back() = "fill";
+    EXPECT_EQ(nearestName("fil", known), "fill");
+    known.insert(known.begin(), "other");
+    EXPECT_EQ(nearestName("fil", known), "") << "the last one that is looked at comes before it";
+}
+
 }  // namespace
 }  // namespace VEXA

@@ -1,5 +1,9 @@
 // Runs the program itself, as a shell does.
 
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <vector>
+
 #include "tests/program/ProgramTools.h"
 
 namespace VEXA::Cli {
@@ -47,6 +51,69 @@ TEST(Program, WarnsOfElementsItCannotUseAndDrawsTheRest) {
     EXPECT_NE(directory.read("chart.svg").find("kept"), std::string::npos);
 }
 
+TEST(Program, ChecksWithTheStatusOfTheWorst) {
+    const TestDirectory directory;
+    directory.write("error.xml", kOpen + "<titel/>\n<title value='a' height='20' x='wide'/></root>");
+    directory.write("warning.xml", kOpen + "<titel/><title value='a' height='20'/></root>");
+    directory.write("hint.xml", kOpen + "<legend><legend-item caption='A'/></legend></root>");
+    struct Case {
+        const char *arguments, *command;
+        int status;
+        std::vector<const char*> lines;
+    };
+    const char* const first = "error.xml:2:1: warning: ";
+    const char* const second = "error.xml:3:1: error: ";
+    const char* const warning = "warning.xml:2:1: warning: ";
+    const char* const hint = "hint.xml:2:1: hint: ";
+    const char* const refused = "warning.xml: error: no picture is written";
+    const Case cases[] = {
+        {"error.xml warning.xml hint.xml --jobs 2", "check", 1, {first, second, warning, hint}},
+        {"warning.xml hint.xml", "check", 0, {warning, hint}},
+        {"--strict hint.xml", "check", 0, {hint}},
+        {"--strict warning.xml", "check", 1, {warning}},
+        {"--strict warning.xml -o a.svg", "render", 1, {warning, refused}},
+        {"--strict hint.xml -o b.svg", "render", 0, {}},
+    };
+    for (const Case& c : cases) {
+        const Outcome told = run(directory, std::string(c.command) + " " + c.arguments);
+        EXPECT_EQ(told.status, c.status) << c.arguments;
+        EXPECT_EQ(told.output, "") << c.arguments;
+        std::istringstream lines(told.errors);
+        std::string line;
+        for (const char* start : c.lines) {
+            std::getline(lines, line);
+            EXPECT_TRUE(startsWith(line, start)) << c.arguments << ": " << line;
+        }
+        EXPECT_FALSE(std::getline(lines, line)) << c.arguments << ": " << line;
+    }
+    EXPECT_FALSE(directory.has("a.svg"));
+    EXPECT_TRUE(directory.has("b.svg")) << "hints are for checks";
+}
+
+TEST(Program, TellsEditorsWhatIsWrongInJson) {
+    const TestDirectory directory;
+    const std::string hostile = "\xE2\x80\xA8 \"\\ \x7F{0}&lt;/script>\xF0\x9F\x98\x80";
+    const std::string name = "a \"b\\.xml";
+    directory.write(name, kOpen + "<title fill='" + hostile + "'/>\n<" + std::string(300, 'z') + "/></root>");
+    const Outcome told = run(directory, "check --diagnostics json none.xml 'a \"b\\.xml'");
+    EXPECT_EQ(told.status, 1);
+    EXPECT_EQ(told.errors, "");
+    std::istringstream lines(told.output);
+    std::vector<nlohmann::json> problems;
+    for (std::string line; std::getline(lines, line);) problems.push_back(nlohmann::json::parse(line));
+    ASSERT_EQ(problems.size(), 3U) << told.output;
+    EXPECT_EQ(problems[0]["file"], "none.xml");
+    EXPECT_EQ(problems[0]["severity"], "error");
+    EXPECT_FALSE(problems[0].contains("line")) << "the whole file is meant";
+    EXPECT_EQ(problems[1]["file"], name);
+    EXPECT_EQ(problems[1]["line"], 2);
+    EXPECT_EQ(problems[1]["column"], 1);
+    EXPECT_EQ(problems[1]["number"], 3003);
+    const std::string message = problems[1]["message"];
+    EXPECT_NE(message.find("\\u2028 \"\\ \\u007f{0}</script>\xF0\x9F\x98\x80"), std::string::npos) << message;
+    EXPECT_EQ(problems[2]["severity"], "warning");
+}
+
 TEST(Program, ReadsStandardInputAndWritesStandardOutput) {
     const TestDirectory directory;
     directory.write("chart.xml", kOpen + "</root>");
@@ -77,6 +144,7 @@ TEST(Program, DrawsTheSameWithOneThreadAndWithMany) {
 TEST(Program, EndsWithTheStatusThatItsHelpPromises) {
     const TestDirectory directory;
     directory.write("chart.xml", kOpen + "</root>");
+    directory.write("fine.xml", kOpen + "<title value='a' height='20'/></root>");
     struct Case {
         const char* arguments;
         int status;
@@ -92,6 +160,11 @@ TEST(Program, EndsWithTheStatusThatItsHelpPromises) {
         {"render chart.xml -o chart.svg --scale 2", 2, "an option that the format has no use for"},
         {"render chart.xml -o chart.xml --to svg", 2, "the document itself"},
         {"render none.xml chart.xml --out-dir out", 1, "one of two cannot be read"},
+        {"check", 2, "nothing to check"},
+        {"check chart.xml --diagnostics xml", 2, "a form that there is not"},
+        {"check none.xml", 1, "a file that cannot be read"},
+        {"check --strict fine.xml", 0, "nothing is wrong"},
+        {"check /dev/", 1, "a directory"},
     };
     for (const Case& testCase : cases) {
         const Outcome told = run(directory, testCase.arguments);

@@ -148,6 +148,10 @@ TEST(Parser, TellsWhatWouldDo) {
         {box("<book Size='2'/>"), "did you mean \"size\"?"},
         {box("<book>"), "<book> of line 1 is open"},
         {"<box/>", "xmlns=\"urn:library\""},
+        {"<box xmlns='urn:lib'/>",
+         "in the namespace \"urn:lib\" and not in that of charts; write xmlns=\"urn:library\""},
+        {box("<book xmlns='urn:lib'/>"), "in the namespace \"urn:lib\""},
+        {box("<book size='1,5 PX'/>"), "did you mean \"1.5px\"?"},
         {"<?xml version='1.0' encoding='EBCDIC-9'?><box/>", "encoding \"EBCDIC-9\" is unknown"},
         {"hello", "a document starts with <"},
         {box("<book name='&#0;'/>"), "&#9;"},
@@ -388,6 +392,39 @@ TEST(Limits, Warnings) {
     read(box(repeat("<z/>", 1000)));
     ASSERT_EQ(collector.lines.size(), Limits::kWarnings + 1);
     EXPECT_EQ(collector.records.back().code, 3014);
+}
+
+/// Takes three problems of a kind.
+class Impatient final : public ISAXParserMonitor {
+public:
+    void report(const LogRecord& problem) override { codes += std::to_string(problem.code) + " "; }
+    std::size_t getLimit() const noexcept override { return 3; }
+    void leaveOut(Severity severity) override { ++leftOut[static_cast<std::size_t>(severity)]; }
+    std::string codes;
+    std::size_t leftOut[3] = {};
+};
+
+TEST(Limits, AMonitorSaysHowMuchItTakes) {
+    Impatient monitor;
+    ReadOptions options;
+    options.monitor = &monitor;
+    read(box(repeat("<zzz/>", 4) + repeat("<book zzz=''/>", 2) + repeat("<book size='a'/>", 5)), options);
+    EXPECT_EQ(monitor.codes, "3004 3004 3004 3014 3003 3003 3003 ");
+    EXPECT_EQ(monitor.leftOut[static_cast<std::size_t>(Severity::Warning)], 3U) << "unknown elements and attributes";
+    EXPECT_EQ(monitor.leftOut[static_cast<std::size_t>(Severity::Error)], 2U) << "each counts for itself";
+}
+
+TEST(Parser, SaysWhetherItReadToTheEnd) {
+    const std::pair<std::string, bool> cases[] = {
+        {box(""), false}, {box("<book size='a'/>"), false}, {box("<book>"), true}, {"<box/>", false}, {"", false}};
+    for (const auto& [document, isCutOff] : cases) {
+        Collector collector;
+        registerLibrary();
+        SaxParserImpl parser(UnrecognizedElementTreatment::SkipWithWarning, true, &collector, false, "");
+        parser.startParsing(make<IO::MemoryStream>(document));
+        const auto top = parser.parseNextChild(nullptr, true);
+        EXPECT_EQ(parser.isCutOff(), isCutOff) << document;
+    }
 }
 
 }  // namespace

@@ -36,6 +36,7 @@ public:
     void setThemeStroke(SmartPtr<Stroke> stroke) override;
     /// The line of a series that is drawn as one.
     virtual void setThemeLineStroke(SmartPtr<Stroke> stroke);
+    bool hasThemeLineStroke() const { return !themeLineStroke_.isEmpty(); }
 
     const XmlObjectList<VexaDataPoint>& getDataPoints() const { return dataPoints_; }
     /// Throws NullPointerException outside a plot area.

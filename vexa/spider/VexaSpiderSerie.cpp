@@ -12,14 +12,6 @@ constexpr int kNoAxisId = 34000;
 constexpr int kUnknownAxis = 34016;
 constexpr int kNearAxis = 34104;
 
-void tellLost(const VexaSpiderDataPoint& point, const SpiderAxisIndex& axes) {
-    if (!point.hasAxisId()) return Log::warning(kNoAxisId, {}, point.getPlace());
-    const String near = Log::takesWarnings() ? axes.findNearest(point.getAxisId()) : String();
-    VariantArray arguments{quoteForMessage(point.getAxisId())};
-    if (!near.isEmpty()) arguments.emplace_back(quoteForMessage(near));
-    Log::warning(near.isEmpty() ? kUnknownAxis : kNearAxis, arguments, point.getPlace());
-}
-
 }  // namespace
 
 VexaSpiderSerie::VexaSpiderSerieTypeInfo::VexaSpiderSerieTypeInfo()
@@ -33,6 +25,14 @@ void VexaSpiderSerie::VexaSpiderSerieTypeInfo::initTypeInfo(XmlObjectTypeInfo* i
 XmlObjectTypeInfo* VexaSpiderSerie::getTypeInfoInstance() {
     static Immortal<VexaSpiderSerieTypeInfo> info;
     return &info.value;
+}
+
+void VexaSpiderSerie::tellLost(const VexaSpiderDataPoint& point, const SpiderAxisIndex& axes) {
+    if (!point.hasAxisId()) return Log::warning(kNoAxisId, {}, point.getPlace());
+    const String near = Log::takesWarnings() ? axes.findNearest(point.getAxisId()) : String();
+    VariantArray arguments{quoteForMessage(point.getAxisId())};
+    if (!near.isEmpty()) arguments.emplace_back(quoteForMessage(near));
+    Log::warning(near.isEmpty() ? kUnknownAxis : kNearAxis, arguments, point.getPlace());
 }
 
 SpiderExtent VexaSpiderSerie::getDataRange() const {

@@ -25,6 +25,10 @@ public:
     /// The same with layout and axes of the spider, which all its series share.
     void render(VexaRenderContext& context, const SpiderLayout& layout, const SpiderAxisIndex& axes);
 
+    const XmlObjectList<VexaSpiderDataPoint>& getDataPoints() const { return dataPoints_; }
+    /// Warns of a data point that has none of the axes.
+    static void tellLost(const VexaSpiderDataPoint& point, const SpiderAxisIndex& axes);
+
     /// The smallest and the largest value of the data points; (0, 0) without data points.
     SpiderExtent getDataRange() const;
     /// The first data point with that axis-id; null when there is none. Throws as render does.

@@ -44,10 +44,10 @@ TEST(Pictures, PngHasThePixelsAndTheResolutionThatAreAskedFor) {
 
 TEST(Pictures, OnePdfHoldsAPageForEachDocumentInTheOrderGiven) {
     const TestDirectory directory;
-    directory.write("a.xml", kOpen + "<title value='Alpha'/></root>");
+    directory.write("a.xml", kOpen + "<title height='20' value='Alpha'/></root>");
     directory.write("b.xml",
                     "<root xmlns='http://vexa-charts.org/2008/vx' width='4in' height='2in' theme='none'>"
-                    "<title value='Beta'/></root>");
+                    "<title height='20' value='Beta'/></root>");
     const Outcome drawn = run(directory, "render b.xml a.xml - b.xml -o all.pdf <a.xml");
     ASSERT_EQ(drawn.status, 0) << drawn.errors;
     EXPECT_EQ(drawn.errors, "");

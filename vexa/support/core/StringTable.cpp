@@ -178,8 +178,8 @@ constexpr Message kMessages[] = {
     {34123, R"(bars at the ends of the "category-axis" are cut in half; give it <display-values )"
             R"(placement="between-ticks"/>)"},
     {34124,
-     R"(with a view box the "width" and the "height" of the root count in its units, too: {0} by {1} on a view box )"
-     R"(of {2} by {3}, so {4}; write them in percent)"},
+     R"(the root is {0} by {1} in units of its view box of {2} by {3}, so {4}; leave "width" and "height" out, or )"
+     R"(write a view box of that size)"},
     {34125, R"(the grid lines have no stroke, none shows; write a "stroke", or leave <grid-lines> out)"},
     {34126, R"(the web has no width, nothing of it shows; write a "web-stroke-width" above 0, or draw-web="false")"},
     {34127, R"(nothing of this {0} shows, it has neither "fill" nor "stroke"; write one of them)"},

@@ -93,4 +93,16 @@ const XmlAttributeTypeInfo& XmlObjectTypeInfo::inheritedAttribute(int inheritabl
     return attributes_[inheritedIndex_[static_cast<std::size_t>(inheritableId)]];
 }
 
+Vector<XmlObject*> XmlObjectTypeInfo::childrenOf(const XmlObject& object) const {
+    Vector<XmlObject*> children;
+    for (const auto& kind : elements_) {
+        const std::size_t before = children.size();
+        kind->collect(object, children);
+        const auto isOther = [&](const XmlObject* c) { return c->getTypeInfo()->getKey().name != kind->getName(); };
+        children.erase(std::remove_if(children.begin() + static_cast<std::ptrdiff_t>(before), children.end(), isOther),
+                       children.end());
+    }
+    return children;
+}
+
 }  // namespace VEXA

@@ -81,6 +81,8 @@ public:
     virtual bool isFull(const XmlObject& parent) const noexcept = 0;
     /// The children no longer have a parent.
     virtual void orphan(XmlObject& parent) const noexcept = 0;
+    /// Appends the children that the member holds, those of other names included that share it.
+    virtual void collect(const XmlObject& parent, Vector<XmlObject*>& children) const = 0;
 
 private:
     std::string_view name_;
@@ -117,6 +119,9 @@ public:
     virtual bool hasChildren() const noexcept { return !elements_.empty(); }
     /// The record of the class it derives from; null for XmlObject.
     virtual XmlObjectTypeInfo* getParentTypeInfo() const = 0;
+
+    /// The children of an object of this class, kind by kind, those of one kind in document order.
+    Vector<XmlObject*> childrenOf(const XmlObject& object) const;
 
     int typeID() const noexcept { return typeId_; }
     bool isKindOf(int typeId) const noexcept;
@@ -191,6 +196,9 @@ public:
     void orphan(XmlObject& parent) const noexcept override {
         if (auto& child = static_cast<C&>(parent).*field_; child) child->setParent(nullptr);
     }
+    void collect(const XmlObject& parent, Vector<XmlObject*>& children) const override {
+        if (const auto& child = static_cast<const C&>(parent).*field_; child) children.push_back(child.get());
+    }
 
 private:
     XmlObjPtr<T> C::*field_;
@@ -211,6 +219,9 @@ public:
     bool isFull(const XmlObject&) const noexcept override { return false; }
     void orphan(XmlObject& parent) const noexcept override {
         for (const auto& child : static_cast<C&>(parent).*field_) child->setParent(nullptr);
+    }
+    void collect(const XmlObject& parent, Vector<XmlObject*>& children) const override {
+        for (const auto& child : static_cast<const C&>(parent).*field_) children.push_back(child.get());
     }
 
 private:

@@ -1,0 +1,133 @@
+#include "vexa/check/PlotRules.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "vexa/support/core/QuotedText.h"
+#include "vexa/support/values/Suggestion.h"
+
+namespace VEXA {
+
+namespace {
+
+constexpr int kYears = 34120;
+constexpr int kHalfBars = 34123;
+constexpr int kTextForDate = 34128;
+constexpr int kTextForNumber = 34129;
+constexpr double kFirstYear = 1500;  // numbers between these two, and no others, are taken for years
+constexpr double kLastYear = 2200;
+constexpr float kClip = 1;  // px that the clip of a chart leaves around the plot
+
+/// Calls `visit` for the data points of all charts, in document order, until it says false.
+template <class Visit>
+bool forEachPoint(const VexaPlotArea& plot, const Visit& visit) {
+    for (const auto& chart : plot.getCharts()) {
+        for (const auto& serie : chart->getSeries()) {
+            for (const auto& point : serie->getDataPoints()) {
+                if (!visit(*chart, *point)) return false;
+            }
+        }
+    }
+    return true;
+}
+
+bool isCalendarUnit(AxisUnitsType unit) noexcept {
+    return unit == AxisUnitsType::Days || unit == AxisUnitsType::Months || unit == AxisUnitsType::Years;
+}
+
+/// Whether the axis speaks of dates although it shows texts.
+bool speaksOfDates(VexaPlotArea& plot) {
+    if (isCalendarUnit(plot.getAxis(true).getUnit().getType())) return true;
+    return !forEachPoint(plot, [](const VexaContainerObject&, const VexaDataPoint& point) {
+        return point.getCategory().getKind() != ValueKind::Date;
+    });
+}
+
+/// The first text on a text axis that `suggest` knows a better form of.
+template <class Suggest>
+void hintAtForm(VexaPlotArea& plot, bool category, const Suggest& suggest, int code, ProblemList& problems) {
+    forEachPoint(plot, [&](const VexaContainerObject&, const VexaDataPoint& point) {
+        const Value& value = category ? point.getCategory() : point.getValue();
+        if (value.getKind() != ValueKind::Text) return true;
+        const String text = value.getValue();
+        const std::string meant = suggest(text.toUtf8());
+        if (meant.empty()) return true;
+        problems.add(Severity::Hint, code, {quoteForMessage(text), String(meant)}, point.getPlace());
+        return false;
+    });
+}
+
+bool isAutomaticText(VexaPlotArea& plot, bool category) {
+    return plot.getAxis(category).getDataType() == AxisDataType::Automatic &&
+           plot.getDataKind(category) == ValueKind::Text;
+}
+
+bool hasBothAxes(VexaPlotArea& plot) {
+    return plot.getOtherAxis(true) != nullptr && plot.getOtherAxis(false) != nullptr;
+}
+
+/// The earliest of the categories when all are years; 0 when they are not, or fewer than two.
+double firstYear(const VexaPlotArea& plot) {
+    double first = kLastYear;
+    double last = 0;
+    const bool areYears = forEachPoint(plot, [&](const VexaContainerObject&, const VexaDataPoint& point) {
+        const double year = point.getCategory().getDouble();
+        first = std::min(first, year);
+        last = std::max(last, year);
+        return year >= kFirstYear && year <= kLastYear && year == std::floor(year);
+    });
+    return areYears && first < last ? first : 0;
+}
+
+void checkYears(VexaPlotArea& plot, ProblemList& problems) {
+    if (plot.getDataKind(true) != ValueKind::Number) return;
+    VexaAxisObject& axis = plot.getAxis(true);
+    const AxisRange& range = axis.getRange();
+    if (range.min.getDouble() < firstYear(plot) / 2)
+        problems.add(Severity::Hint, kYears, {range.min.getValue(), range.max.getValue()}, axis.getPlace());
+}
+
+/// Whether an edge of the plot cuts a bar whose category lies inside.
+bool isCut(float position, float width, float length) noexcept {
+    const bool isInside = position >= 0 && position <= length;
+    return isInside && (position - width / 2 < -kClip || position + width / 2 > length + kClip);
+}
+
+void checkBars(VexaPlotArea& plot, VexaRenderContext& context, ProblemList& problems) {
+    VexaAxisObject& axis = plot.getAxis(true);
+    if (axis.getPlacement() == DisplayValPlacement::BetweenTicks) return;
+    const SizeF size = plot.getAreaSize(context);
+    const float length = axis.isVertical() ? size.height : size.width;
+    const bool areWhole = forEachPoint(plot, [&](const VexaContainerObject& chart, const VexaDataPoint& point) {
+        if (chart.getContainerKind() != ContainerKind::Bar) return true;
+        return !isCut(plot.getCategoryPosition(context, point.getCategory()), point.getWidth(), length);
+    });
+    if (!areWhole) problems.add(Severity::Hint, kHalfBars, {}, axis.getPlace());
+}
+
+}  // namespace
+
+void checkPlotData(VexaPlotArea& plot, ProblemList& problems) {
+    for (const bool category : {false, true}) {
+        VexaAxisObject* const axis = plot.getOtherAxis(!category);
+        if (axis == nullptr) continue;
+        try {
+            VexaPlotArea::checkUnit(*axis);
+        } catch (const Exception& error) {
+            problems.add(error);
+        }
+    }
+    if (!hasBothAxes(plot)) return;
+    if (isAutomaticText(plot, true) && speaksOfDates(plot)) hintAtForm(plot, true, suggestDate, kTextForDate, problems);
+    if (isAutomaticText(plot, false)) hintAtForm(plot, false, suggestNumber, kTextForNumber, problems);
+    plot.getData(true);
+}
+
+void checkPlotLayout(VexaPlotArea& plot, VexaRenderContext& context, ProblemList& problems) {
+    if (!hasBothAxes(plot)) return;
+    checkYears(plot, problems);
+    const SizeF size = plot.getAreaSize(context);
+    if (size.width > 0 && size.height > 0) checkBars(plot, context, problems);
+}
+
+}  // namespace VEXA

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "vexa/check/ProblemList.h"
+#include "vexa/engine/VexaRoot.h"
+
+/// What shows in a document's tree of objects alone.
+namespace VEXA {
+
+/// Where the last child of an element begins; without children the element itself.
+SourcePlace lastChildPlace(const XmlObject& object);
+
+/// Before the tree is painted, which changes it: charts without data, lengths below 0, references
+/// that lead nowhere, data points without their axis.
+void checkTree(VexaRoot& root, ProblemList& problems);
+
+/// When the theme has been handed out: grid lines, series and slices that are painted with nothing.
+void checkVisibility(VexaRoot& root, ProblemList& problems);
+
+}  // namespace VEXA
