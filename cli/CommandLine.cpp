@@ -31,16 +31,18 @@ CommandLine parseCommandLine(int count, const char* const* arguments) {
     FontsOptions fontsOptions;
     CheckOptions checkOptions;
     CLI::App app("Draws charts described in XML.", "vexa");
-    app.set_version_flag("--version", "vexa " VEXA_VERSION, "Show the version");
     app.set_help_flag("-h,--help", "Show this help");
     app.require_subcommand(0, 1);
-    app.footer(kFooter);
     // Setting up commands takes as long as drawing some charts, so the one that is typed is set up alone.
     const std::string_view typed = count > 1 ? arguments[1] : "";
     const bool isKnown = typed == "render" || typed == "check" || typed == "fonts";
     const auto add = [&](const char* name, const char* purpose) {
         return isKnown && typed != name ? nullptr : app.add_subcommand(name, purpose);
     };
+    if (!isKnown) {
+        app.set_version_flag("--version", "vexa " VEXA_VERSION, "Show the version");
+        app.footer(kFooter);
+    }
     CLI::App* const render = add("render", "Draw chart documents as SVG, PNG, PDF or display lists");
     CLI::App* const check = add("check", "Tell all that is wrong with chart documents");
     CLI::App* const fonts = add("fonts", "Tell which fonts draw a text");

@@ -96,9 +96,9 @@ TEST(Log, CountsWarningsBeyondTheLimitOfADocument) {
         const WarningLimitScope limit(2);
         const WarningLimitScope inner;  // counts on with the outer one
         warnAbout("1");
-        EXPECT_TRUE(Log::takesWarnings());
+        EXPECT_TRUE(Log::takesWarning(2001));
         warnAbout("2");
-        EXPECT_FALSE(Log::takesWarnings());
+        EXPECT_FALSE(Log::takesWarning(2001));
         warnAbout("3", {4, 5});
         warnAbout("4");
         EXPECT_EQ(limit.leftOut(), 2U);
@@ -106,7 +106,7 @@ TEST(Log, CountsWarningsBeyondTheLimitOfADocument) {
     EXPECT_EQ(recorder.messages,
               "1;2;more than 2 warnings, further ones of this document are left out; correct these first;");
     EXPECT_EQ(recorder.last.place, (SourcePlace{4, 5}));
-    EXPECT_TRUE(Log::takesWarnings()) << "the document is done";
+    EXPECT_TRUE(Log::takesWarning(2001)) << "the document is done";
 }
 
 TEST(Log, ChangesItsSinkWhileOthersLog) {

@@ -29,7 +29,7 @@ void ProblemList::add(const Exception& error) {
 }
 
 void ProblemList::write(const LogRecord& record) {
-    if (record.severity != Severity::Error && std::ranges::find(known_, record.code) == known_.end()) add(record);
+    if (record.severity != Severity::Error) add(record);
 }
 
 void ProblemList::add(const LogRecord& problem) {

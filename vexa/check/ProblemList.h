@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <initializer_list>
 
 #include "vexa/support/core/Log.h"
 #include "vexa/support/xml/SaxParserImpl.h"
@@ -19,12 +21,13 @@ public:
     void leaveOut(Severity) override { ++leftOut_; }
     /// Of the log. Errors are thrown as well, and whoever catches them adds them.
     void write(const LogRecord& record) override;
+    bool wantsWarning(int code) const override { return std::ranges::find(known_, code) == known_.end(); }
 
     bool hasErrors() const noexcept { return counts_[static_cast<std::size_t>(Severity::Error)] > 0; }
     /// Problems that are added from now on do not count at this place and behind it: what stands there is not whole.
     void ignoreFrom(SourcePlace place) noexcept { end_ = place; }
-    /// A warning of that number from now on was told before, of the element that gives what others only inherit.
-    void ignoreWarning(int code) { known_.push_back(code); }
+    /// Warnings of these numbers from now on were told before, of the elements that cause them.
+    void ignoreWarnings(std::initializer_list<int> codes) { known_.insert(known_.end(), codes); }
     /// So many that others did not tell.
     void addLeftOut(std::size_t count) noexcept { leftOut_ += count; }
     std::size_t leftOut() const noexcept { return leftOut_; }

@@ -17,6 +17,8 @@ namespace {
 constexpr int kNoAxisId = 34000;
 constexpr int kNotFound = 34001;
 constexpr int kNearlyFound = 34102;
+constexpr int kUnknownAxis = 34016;
+constexpr int kNearAxis = 34104;
 constexpr int kNoSeries = 34111;
 constexpr int kNoPoints = 34112;
 constexpr int kSpiderWithout = 34113;
@@ -213,7 +215,7 @@ void checkTree(VexaRoot& root, ProblemList& problems) {
         if (object.isA(VexaSerie::typeID()))
             checkPoints(static_cast<VexaSerie&>(object).getDataPoints().size(), object, "data-point", problems);
     });
-    for (const int code : {kNotFound, kNearlyFound}) problems.ignoreWarning(code);
+    problems.ignoreWarnings({kNotFound, kNearlyFound, kNoAxisId, kUnknownAxis, kNearAxis});
 }
 
 void checkVisibility(VexaRoot& root, ProblemList& problems) {

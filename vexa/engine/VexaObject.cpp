@@ -44,7 +44,7 @@ XmlObjPtr<VexaObject> VexaObject::findReferencedObject(const String& reference) 
 
 void VexaObject::tellNotFound(const String& reference) {
     String near;
-    XmlObject* const top = Log::takesWarnings() ? getVexaRoot() : this;
+    XmlObject* const top = Log::takesWarning(kNotFound) ? getVexaRoot() : this;
     if (top->isKindOf(typeID())) near = static_cast<VexaObject*>(top)->findNearestReference(reference);
     VariantArray arguments{quoteForMessage(reference)};
     if (!near.isEmpty()) arguments.emplace_back(quoteForMessage(near));

@@ -29,7 +29,7 @@ XmlObjectTypeInfo* VexaSpiderSerie::getTypeInfoInstance() {
 
 void VexaSpiderSerie::tellLost(const VexaSpiderDataPoint& point, const SpiderAxisIndex& axes) {
     if (!point.hasAxisId()) return Log::warning(kNoAxisId, {}, point.getPlace());
-    const String near = Log::takesWarnings() ? axes.findNearest(point.getAxisId()) : String();
+    const String near = Log::takesWarning(kUnknownAxis) ? axes.findNearest(point.getAxisId()) : String();
     VariantArray arguments{quoteForMessage(point.getAxisId())};
     if (!near.isEmpty()) arguments.emplace_back(quoteForMessage(near));
     Log::warning(near.isEmpty() ? kUnknownAxis : kNearAxis, arguments, point.getPlace());

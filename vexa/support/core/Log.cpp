@@ -57,6 +57,10 @@ void deliver(const LogRecord& record) {
     }
 }
 
+bool isLimitReached() noexcept { return warningCount.scopes > 0 && warningCount.written >= warningCount.limit; }
+
+bool isWanted(int code) { return threadSink == nullptr || threadSink->wantsWarning(code); }
+
 /// One warning beyond the limit; the first one is told of.
 void leaveOut(SourcePlace place) {
     if (warningCount.leftOut++ > 0) return;
@@ -68,18 +72,19 @@ void leaveOut(SourcePlace place) {
 }  // namespace
 
 void Log::warning(int code, const VariantArray& arguments, SourcePlace place) {
-    if (!takesWarnings()) return leaveOut(place);
+    if (!isWanted(code)) return;
+    if (isLimitReached()) return leaveOut(place);
     write({Severity::Warning, code, messageText(code, arguments), place});
 }
 
 void Log::write(const LogRecord& record) {
     if (record.severity == Severity::Error || warningCount.scopes == 0) return deliver(record);
-    if (!takesWarnings()) return leaveOut(record.place);
+    if (isLimitReached()) return leaveOut(record.place);
     ++warningCount.written;
     deliver(record);
 }
 
-bool Log::takesWarnings() noexcept { return warningCount.scopes == 0 || warningCount.written < warningCount.limit; }
+bool Log::takesWarning(int code) { return !isLimitReached() && isWanted(code); }
 
 WarningLimitScope::WarningLimitScope(std::size_t limit) noexcept {
     if (warningCount.scopes == 0) warningCount = {0, limit, 0, 0};

@@ -26,6 +26,8 @@ class LogSink {
 public:
     virtual ~LogSink() = default;
     virtual void write(const LogRecord& record) = 0;
+    /// Whether warnings of that number are of use; others are not even counted.
+    virtual bool wantsWarning(int) const { return true; }
 };
 
 /// The log. By default warnings go to the standard error stream; errors do not, since who catches the exception tells
@@ -35,8 +37,9 @@ public:
     /// Writes message `code` with its arguments.
     static void warning(int code, const VariantArray& arguments = {}, SourcePlace place = {});
     static void write(const LogRecord& record);
-    /// Whether a warning would be told; not beyond the limit of a document, which spares the work on its text.
-    static bool takesWarnings() noexcept;
+    /// Whether a warning of that number would be told; not beyond the limit of a document, which spares the work on its
+    /// text.
+    static bool takesWarning(int code);
 
     /// The sink of all threads without one of their own; empty restores the default. Returns the one before.
     static std::shared_ptr<LogSink> setSink(std::shared_ptr<LogSink> sink);
