@@ -178,6 +178,8 @@ TEST(DocumentCheck, HintsAtWhatWillDisappoint) {
         return "<plot-area " + attributes + "><line-chart>\n<serie><data-point category='A' value='1' " + point +
                "/></serie></line-chart><value-axis/><category-axis/></plot-area>";
     };
+    std::string slices = "<slice value='300' stroke='red'/>";
+    for (int i = 0; i < 20; ++i) slices += "<slice value='1' stroke='red' caption='Caption'/>";
     const auto numbers = [&](const char* last) {
         return line(
             "<data-point category='A' value='1,5'/>\n<data-point category='B' value='" + std::string(last) + "'/>", "");
@@ -208,6 +210,7 @@ TEST(DocumentCheck, HintsAtWhatWillDisappoint) {
         {spider("", ""), "2:1 hint 34127; ", "a series of no colour: themes give spiders none"},
         {page("<pie><slice value='0'/>\n<slice value='2'/><slice value='1'/></pie>"), "2:1 hint 34127; ", "told once"},
         {page("<pie fill='red'>\n<slice value='2' stroke='red'/></pie>"), "", "an outline shows"},
+        {page("\n<pie fill='red'>" + slices + "</pie>"), "2:1 hint 34131; ", "captions of thin slices"},
         {page(bare("", "")), "2:1 hint 34130; ", "a line without stroke"},
         {page(bare("", "caption='1'")), "", "meant for its captions"},
         {page(bare("aspect-3d-view='true'", "fill='red'")), "2:1 hint 34127; ", "the ribbon is the series' own"},

@@ -127,6 +127,15 @@ TEST(Docs, TheProgramOfTheReadmeTellsTheLineOfAnError) {
     EXPECT_NE(told.find("exit status 1"), std::string::npos) << told;
 }
 
+TEST(Docs, TheProgramOfTheDiagnosticsTellsAllProblems) {
+    const fs::path chart = fs::path(VEXA_TEST_OUTPUT) / "faulty.xml";
+    std::ofstream(chart) << "<root xmlns='http://vexa-charts.org/2008/vx'>\n<titel/>\n<title x='a' value='T'/></root>";
+    const std::string told = outputOf(VEXA_CHECK_CHART " " + chart.string());
+    EXPECT_EQ(told.rfind("line 2 should change: unknown element", 0), 0U) << told;
+    EXPECT_NE(told.find("\nline 3 must change: title: attribute \"x\""), std::string::npos) << told;
+    EXPECT_NE(told.find("exit status 1"), std::string::npos) << told;
+}
+
 // A page of 96 x 48 px is an inch wide and half an inch high: 1016 and 508 units of a plotter. The text starts at the
 // left edge of its box, a quarter of an inch from the left.
 TEST(Docs, TheCustomSurfaceDrawsOutlinesWithThePen) {

@@ -28,6 +28,7 @@ constexpr int kBareGrid = 34125;
 constexpr int kBareWeb = 34126;
 constexpr int kUnseen = 34127;
 constexpr int kUnseenLine = 34130;
+constexpr int kHiddenCaptions = 34131;
 
 /// Lengths that areas, titles and layouts do not tell of themselves.
 constexpr std::string_view kSizes[] = {"stroke-width", "web-stroke-width", "marker-width",
@@ -181,6 +182,14 @@ void checkSlices(const VexaPie& pie, ProblemList& problems) {
     }
 }
 
+/// That a few small slices go without is what leaving captions out is for.
+void checkCaptions(const VexaPie& pie, ProblemList& problems) {
+    constexpr std::size_t kFew = 4;  // one of so many
+    const std::size_t hidden = pie.getOverlappedCaptions();
+    if (hidden * kFew > pie.getSlices().size())
+        problems.add(Severity::Hint, kHiddenCaptions, {static_cast<std::int64_t>(hidden)}, pie.getPlace());
+}
+
 void checkGrid(VexaGridLine& grid, ProblemList& problems) {
     const bool isDrawn = *readAttribute<GridlineType>(grid, "type") != GridlineType::None;
     if (isDrawn && grid.getStrokeBrush(ColorAspect::Normal, 0.5F).isEmpty())
@@ -222,6 +231,7 @@ void checkVisibility(VexaRoot& root, ProblemList& problems) {
     walkTree(root, [&](XmlObject& object) {
         if (object.isA(VexaSerie::typeID())) checkSerie(static_cast<VexaSerie&>(object), problems);
         if (object.isA(VexaPie::typeID())) checkSlices(static_cast<VexaPie&>(object), problems);
+        if (object.isA(VexaPie::typeID())) checkCaptions(static_cast<VexaPie&>(object), problems);
         if (object.isA(VexaGridLine::typeID())) checkGrid(static_cast<VexaGridLine&>(object), problems);
         if (object.isA(VexaSpider::typeID())) checkWeb(static_cast<VexaSpider&>(object), problems);
         if (object.isA(VexaSpiderSerie::typeID()) && !isPainted(static_cast<VexaSpiderSerie&>(object)))

@@ -13,7 +13,8 @@ SourcePlace lastChildPlace(const XmlObject& object);
 /// that lead nowhere, data points without their axis.
 void checkTree(VexaRoot& root, ProblemList& problems);
 
-/// When the theme has been handed out: grid lines, series and slices that are painted with nothing.
+/// When the tree has been painted: captions that hide each other, and grid lines, series and slices that neither the
+/// document nor its theme gives a colour.
 void checkVisibility(VexaRoot& root, ProblemList& problems);
 
 }  // namespace VEXA

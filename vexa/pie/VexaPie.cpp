@@ -175,7 +175,9 @@ void VexaPie::hideCaptionsThatOverlap() {
     }
     const Vector<bool> stays = boxesWithoutOverlap(boxes);
     for (std::size_t i = 0; i < shown.size(); ++i) {
-        if (!stays[i]) shown[i]->hideCaption();
+        if (stays[i]) continue;
+        shown[i]->hideCaption();
+        if (shown[i]->hasCaption()) ++overlapped_;
     }
 }
 

@@ -37,6 +37,8 @@ public:
     bool showsConnectors() const { return *showConnectors_; }
     bool wrapsCaptions() const { return *captionWrap_; }
     SmartPtr<Color> getConnectorsColor() const { return *connectorsColor_; }
+    /// How many captions the render left out because they would lie over others.
+    std::size_t getOverlappedCaptions() const noexcept { return overlapped_; }
     /// What all connectors of this pie are drawn with.
     const SmartPtr<Stroke>& getConnectorStroke();
     /// The room for captions in px; a percentage is one of the shorter side of the area, and of 30 px at least.
@@ -71,6 +73,7 @@ private:
     bool fitted_ = false;
     bool captionsChecked_ = false;
     bool captionsFit_ = true;
+    std::size_t overlapped_ = 0;
 };
 
 }  // namespace VEXA

@@ -186,6 +186,8 @@ constexpr Message kMessages[] = {
     {34128, R"("{0}" counts as a text and not as a date; write "{1}")"},
     {34129, R"("{0}" counts as a text and not as a number, so the "value-axis" shows texts; write "{1}")"},
     {34130, R"(the line of this series has no stroke, nothing of it shows; write a "stroke")"},
+    {34131, R"({0} captions of the pie would lie over others and are left out; make it larger, or write a smaller )"
+            R"("font-size")"},
 
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
