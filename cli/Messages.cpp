@@ -11,6 +11,11 @@ std::string inputName(const std::string& file) { return file == kStandardStream 
 
 std::string outputName(const std::string& file) { return file == kStandardStream ? "<stdout>" : file; }
 
+std::string usageMessage(std::string_view command, std::string_view problem) {
+    const std::string name = "vexa " + std::string(command);
+    return name + ": " + printable(problem) + "\n" + name + " --help tells how.\n";
+}
+
 std::string_view severityName(Severity severity) noexcept {
     switch (severity) {
         case Severity::Hint:

@@ -14,6 +14,9 @@ std::string outputName(const std::string& file);
 /// One line of text with its invisible characters as escapes, so that a name in it cannot steer a terminal.
 std::string printable(std::string_view text);
 
+/// What is wrong with the command line of `vexa COMMAND`, and where to read on; printable.
+std::string usageMessage(std::string_view command, std::string_view problem);
+
 /// "error", "warning" or "hint".
 std::string_view severityName(Severity severity) noexcept;
 

@@ -69,7 +69,7 @@ void loadLibraries(const RenderJob& job) {
 }
 
 ExitStatus refuse(const std::string& problem, Console& console) {
-    console.write("vexa render: " + printable(problem) + "\nvexa render --help tells how.\n");
+    console.write(usageMessage("render", problem));
     return kWrongUsage;
 }
 

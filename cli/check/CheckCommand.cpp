@@ -50,7 +50,7 @@ std::string problemOf(const CheckOptions& options) {
 }
 
 ExitStatus refuse(const std::string& problem, Console& console) {
-    console.write("vexa check: " + printable(problem) + "\nvexa check --help tells how.\n");
+    console.write(usageMessage("check", problem));
     return kWrongUsage;
 }
 

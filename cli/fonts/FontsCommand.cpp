@@ -78,7 +78,7 @@ std::string linesOf(const String& text, const FontReport& report) {
 Answer listFonts(const FontsOptions& options) {
     const auto size = readNumber(options.size, std::numeric_limits<float>::min(), Limits::kFontSize);
     if (const std::string problem = problemOf(options, size); !problem.empty()) {
-        return {"vexa fonts: " + printable(problem) + "\nvexa fonts --help tells how.\n", kWrongUsage};
+        return {usageMessage("fonts", problem), kWrongUsage};
     }
     const std::shared_ptr<FontService> service = callersFonts(options.directories);
     const Font font = fontOf(options, *size);
