@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <unordered_map>
 
+#include "vexa/engine/PaintWatch.h"
 #include "vexa/legend/VexaLegend.h"
 #include "vexa/legend/VexaTitle.h"
 #include "vexa/style/VexaAreaObject.h"
@@ -10,15 +10,6 @@
 #include "vexa/support/drawing/RenderContext.h"
 
 namespace VEXA {
-
-/// Stands by while a page is painted: paints each part of it, or what prepares a part, by calling `step`.
-class PaintWatch {
-public:
-    virtual ~PaintWatch() = default;
-    /// `part` is the root itself for what concerns the whole page, else a body, the title or the legend. What `step`
-    /// throws may be kept back; the other parts are painted all the same.
-    virtual void paint(VexaObject& part, VexaRenderContext& context, const std::function<void()>& step) = 0;
-};
 
 /// The top element of a chart document: owns the chart bodies, title, legend and definitions, and drives a render.
 ///
