@@ -201,6 +201,13 @@ TEST(PieChart, CaptionsAreBrokenAndPlaced) {
     const auto text =
         drawingCalls(pieWith("caption-color='#00aa00' stroke='red'", slice("1", "A", "fill='blue'")), "text");
     EXPECT_EQ(text.at(0).fill + text.at(0).stroke, "#00aa00") << "not in the slice's own paint";
+    EXPECT_EQ(textsOf(pieWith(kOverflow + "caption-placement='center' start-angle='315'",
+                              slice("1", "A", "caption-placement='inside-end'") + slice("1", "B"))),
+              "A 161.88,167.88; B 43.97,51.97")
+        << "a slice has the last word: 96 px at 45 degrees, 75 px opposite";
+    EXPECT_EQ(textsOf(pieWith(kOverflow + "caption-size='70%'", slice("1", "A B"), "width='20' height='20'")),
+              "A B -22,10")
+        << "70% of 30 px at least hold the 18 px of the text";
 }
 
 TEST(PieChart, ConnectorsLeadToOutsideCaptions) {
