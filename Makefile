@@ -3,14 +3,15 @@
 BUILD := build/release
 VEXA := $(BUILD)/bin/vexa
 
-.PHONY: help packages demo test bench format clean
+.PHONY: help packages demo test bench linearity format clean
 
 help:
-	@echo "make demo    build, and draw every example into out/"
-	@echo "make test    build, and run all tests"
-	@echo "make bench   build, and run the benchmarks"
-	@echo "make format  format all C++ sources"
-	@echo "make clean   remove build/ and out/"
+	@echo "make demo       build, and draw every example into out/"
+	@echo "make test       build, and run all tests"
+	@echo "make bench      build, and run the benchmarks"
+	@echo "make linearity  count instructions: work must grow no faster than documents"
+	@echo "make format     format all C++ sources"
+	@echo "make clean      remove build/ and out/"
 
 demo: $(BUILD)/build.ninja
 	cmake --build --preset release --target vexa_cli
@@ -28,6 +29,11 @@ bench: $(BUILD)/build.ninja
 	cmake --build --preset release
 	$(BUILD)/bench/vexa_bench
 	bench/process.sh $(BUILD)
+
+linearity: $(BUILD)/build.ninja
+	@scripts/install-packages proof
+	cmake --build --preset release --target vexa_linearity
+	bench/linearity.sh $(BUILD)
 
 format:
 	scripts/install-packages lint
