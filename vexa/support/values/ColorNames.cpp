@@ -7,11 +7,6 @@ namespace VEXA {
 
 namespace {
 
-struct ColorName {
-    std::string_view name;
-    std::uint32_t rgb;
-};
-
 // The named colours of CSS Color Module Level 4.
 constexpr ColorName kColorNames[] = {
     {"aliceblue", 0xF0F8FF},
@@ -168,6 +163,8 @@ static_assert(std::ranges::is_sorted(kColorNames, {}, &ColorName::name));
 constexpr std::size_t kLongestName = 20;  // lightgoldenrodyellow
 
 }  // namespace
+
+std::span<const ColorName> colorNames() noexcept { return kColorNames; }
 
 std::optional<std::uint32_t> findColorName(std::string_view name) noexcept {
     if (name.size() > kLongestName) return std::nullopt;
