@@ -5,6 +5,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/FontsOptions.h"
 #include "cli/RenderOptions.h"
+#include "cli/SchemaOptions.h"
 
 namespace VEXA::Cli {
 
@@ -12,6 +13,7 @@ namespace VEXA::Cli {
 struct CommandLine {
     std::optional<RenderOptions> render;
     std::optional<FontsOptions> fonts;
+    std::optional<SchemaOptions> schema;
     Answer answer;
 };
 

@@ -8,6 +8,7 @@
 #include "cli/FontsCommand.h"
 #include "cli/Messages.h"
 #include "cli/RenderCommand.h"
+#include "cli/SchemaCommand.h"
 
 namespace VEXA::Cli {
 namespace {
@@ -29,7 +30,9 @@ int runProgram(int count, const char* const* arguments, const Painter& paint) {
     try {
         const CommandLine line = parseCommandLine(count, arguments);
         if (line.render) return render(*line.render, paint, console);
-        return show(line.fonts ? listFonts(*line.fonts) : line.answer, console);
+        if (line.fonts) return show(listFonts(*line.fonts), console);
+        if (line.schema) return show(describeDocuments(*line.schema), console);
+        return show(line.answer, console);
     } catch (const std::exception& error) {  // fonts that are not there, output that cannot be written, no memory
         console.write("vexa: error: " + printable(error.what()) + "\n");
         return kFailed;

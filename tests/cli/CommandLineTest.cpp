@@ -54,6 +54,13 @@ TEST(CommandLine, ReadsEveryOptionOfFonts) {
     EXPECT_EQ(parse({"fonts"}).fonts->family, "sans-serif") << "of a document that asks for none";
 }
 
+TEST(CommandLine, ReadsEveryOptionOfSchema) {
+    EXPECT_EQ(parse({"schema", "--format", "markdown"}).schema->format, "markdown");
+    EXPECT_EQ(parse({"schema"}).schema->format, "xsd") << "what editors read";
+    EXPECT_EQ(parse({"render", "fonts", "schema"}).render->inputs, (std::vector<std::string>{"fonts", "schema"}))
+        << "documents may have the names of commands";
+}
+
 TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
     const std::tuple<std::vector<const char*>, ExitStatus, const char*, const char*> cases[] = {
         {{}, kWrongUsage, "render", "the bare program lists its commands, and is no success"},
@@ -61,6 +68,8 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
         {{"--version"}, kDone, "vexa " VEXA_VERSION "\n", "the version of the build"},
         {{"render", "--help"}, kDone, "Exit status", "help of the command, not of the program"},
         {{"fonts", "--help"}, kDone, "vexa fonts --family", "help of the other command"},
+        {{"schema", "--help"}, kDone, "vexa schema --format", "help of the third one"},
+        {{"schema", "a.xml"}, kWrongUsage, "vexa schema: ", "a schema is of no document"},
         {{"draw"}, kWrongUsage, "vexa: ", "an unknown command"},
         {{"render", "a.xml", "--colour"}, kWrongUsage, "vexa render: ", "an unknown option"},
         {{"render", "a.xml", "--out"}, kWrongUsage, "--out", "an abbreviation is not guessed"},
@@ -73,7 +82,7 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
     };
     for (const auto& [arguments, status, part, why] : cases) {
         const CommandLine line = parse(arguments);
-        EXPECT_FALSE(line.render || line.fonts) << why;
+        EXPECT_FALSE(line.render || line.fonts || line.schema) << why;
         EXPECT_EQ(line.answer.status, status) << why;
         EXPECT_NE(line.answer.text.find(part), std::string::npos) << why << "\n" << line.answer.text;
     }
