@@ -3,14 +3,17 @@
 BUILD := build/release
 VEXA := $(BUILD)/bin/vexa
 
-.PHONY: help packages demo test bench format clean
+.PHONY: help packages demo test bench linearity soak tsan format clean
 
 help:
-	@echo "make demo    build, and draw every example into out/"
-	@echo "make test    build, and run all tests"
-	@echo "make bench   build, and run the benchmarks"
-	@echo "make format  format all C++ sources"
-	@echo "make clean   remove build/ and out/"
+	@echo "make demo       build, and draw every example into out/"
+	@echo "make test       build, and run all tests"
+	@echo "make bench      build, and run the benchmarks"
+	@echo "make linearity  count instructions: work must grow no faster than documents"
+	@echo "make soak       render 100,000 documents in one process: no memory and no descriptor may get lost"
+	@echo "make tsan       render on 8 threads under the thread sanitizer"
+	@echo "make format     format all C++ sources"
+	@echo "make clean      remove build/ and out/"
 
 demo: $(BUILD)/build.ninja
 	cmake --build --preset release --target vexa_cli
@@ -28,6 +31,24 @@ bench: $(BUILD)/build.ninja
 	cmake --build --preset release
 	$(BUILD)/bench/vexa_bench
 	bench/process.sh $(BUILD)
+
+linearity: $(BUILD)/build.ninja
+	@scripts/install-packages proof
+	cmake --build --preset release --target vexa_linearity
+	bench/linearity.sh $(BUILD)
+
+soak: $(BUILD)/build.ninja
+	cmake --build --preset release --target vexa_soak
+	$(BUILD)/tests/vexa_soak
+
+# Only what is compiled with the sanitizer is watched: the system's libraries are not. Where addresses are randomised
+# widely the sanitizer's own memory does not fit in between.
+tsan: packages
+	cmake --preset threads
+	cmake --build --preset threads --target test_load test_core
+	cd build/threads && VEXA_LOAD_DOCUMENTS=1000 TSAN_OPTIONS="ignore_noninstrumented_modules=1 halt_on_error=1" \
+	    setarch -R tests/test_load
+	cd build/threads && setarch -R tests/test_core
 
 format:
 	scripts/install-packages lint

@@ -4,6 +4,7 @@
 
 #include "cli/FontsOptions.h"
 #include "cli/RenderOptions.h"
+#include "cli/SchemaOptions.h"
 #include "cli/check/CheckOptions.h"
 
 namespace VEXA::Cli {
@@ -15,5 +16,6 @@ inline constexpr unsigned kMaxJobs = 1024;
 void addRenderOptions(CLI::App& command, RenderOptions& options);
 void addFontsOptions(CLI::App& command, FontsOptions& options);
 void addCheckOptions(CLI::App& command, CheckOptions& options);
+void addSchemaOptions(CLI::App& command, SchemaOptions& options);
 
 }  // namespace VEXA::Cli

@@ -24,41 +24,50 @@ Answer answerTo(const CLI::App& app, const CLI::ParseError& end) {
     return {name + ": " + printable(end.what()) + "\n" + name + " --help tells how.\n", kWrongUsage};
 }
 
+struct Command {
+    std::string_view name;
+    const char* purpose;
+    void (*addOptions)(CLI::App& command, CommandLine& line);
+};
+
+constexpr Command kCommands[] = {
+    {"render", "Draw chart documents as SVG, PNG, PDF or display lists",
+     [](CLI::App& command, CommandLine& line) { addRenderOptions(command, line.render.emplace()); }},
+    {"check", "Tell all that is wrong with chart documents",
+     [](CLI::App& command, CommandLine& line) { addCheckOptions(command, line.check.emplace()); }},
+    {"fonts", "Tell which fonts draw a text",
+     [](CLI::App& command, CommandLine& line) { addFontsOptions(command, line.fonts.emplace()); }},
+    {"schema", "Print the XML schema of chart documents, or their reference",
+     [](CLI::App& command, CommandLine& line) { addSchemaOptions(command, line.schema.emplace()); }},
+};
+
 }  // namespace
 
 CommandLine parseCommandLine(int count, const char* const* arguments) {
-    RenderOptions renderOptions;
-    FontsOptions fontsOptions;
-    CheckOptions checkOptions;
+    CommandLine line;
     CLI::App app("Draws charts described in XML.", "vexa");
     app.set_help_flag("-h,--help", "Show this help");
     app.require_subcommand(0, 1);
     // Setting up commands takes as long as drawing some charts, so the one that is typed is set up alone.
     const std::string_view typed = count > 1 ? arguments[1] : "";
-    const bool isKnown = typed == "render" || typed == "check" || typed == "fonts";
-    const auto add = [&](const char* name, const char* purpose) {
-        return isKnown && typed != name ? nullptr : app.add_subcommand(name, purpose);
-    };
-    if (!isKnown) {
+    const auto* const command = std::ranges::find(kCommands, typed, &Command::name);
+    const bool isKnown = command != std::end(kCommands);
+    if (isKnown) {
+        command->addOptions(*app.add_subcommand(std::string(typed), command->purpose), line);
+    } else {
         app.set_version_flag("--version", "vexa " VEXA_VERSION, "Show the version");
         app.footer(kFooter);
+        for (const Command& each : kCommands) app.add_subcommand(std::string(each.name), each.purpose);
     }
-    CLI::App* const render = add("render", "Draw chart documents as SVG, PNG, PDF or display lists");
-    CLI::App* const check = add("check", "Tell all that is wrong with chart documents");
-    CLI::App* const fonts = add("fonts", "Tell which fonts draw a text");
-    if (typed == "render") addRenderOptions(*render, renderOptions);
-    if (typed == "check") addCheckOptions(*check, checkOptions);
-    if (typed == "fonts") addFontsOptions(*fonts, fontsOptions);
     try {
         app.parse(count, arguments);
     } catch (const CLI::ParseError& end) {
-        return {{}, {}, {}, answerTo(app, end)};
+        line = {};
+        line.answer = answerTo(app, end);
+        return line;
     }
-    const auto isTyped = [](const CLI::App* command) { return command != nullptr && command->parsed(); };
-    if (isTyped(render)) return {std::move(renderOptions), {}, {}, {}};
-    if (isTyped(fonts)) return {{}, std::move(fontsOptions), {}, {}};
-    if (isTyped(check)) return {{}, {}, std::move(checkOptions), {}};
-    return {{}, {}, {}, {app.help(), kWrongUsage}};
+    if (!isKnown) line.answer = {app.help(), kWrongUsage};
+    return line;
 }
 
 }  // namespace VEXA::Cli

@@ -5,6 +5,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/FontsOptions.h"
 #include "cli/RenderOptions.h"
+#include "cli/SchemaOptions.h"
 #include "cli/check/CheckOptions.h"
 
 namespace VEXA::Cli {
@@ -14,6 +15,7 @@ struct CommandLine {
     std::optional<RenderOptions> render;
     std::optional<FontsOptions> fonts;
     std::optional<CheckOptions> check;
+    std::optional<SchemaOptions> schema;
     Answer answer;
 };
 

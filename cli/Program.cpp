@@ -8,6 +8,7 @@
 #include "cli/FontsCommand.h"
 #include "cli/Messages.h"
 #include "cli/RenderCommand.h"
+#include "cli/SchemaCommand.h"
 #include "cli/check/CheckCommand.h"
 
 namespace VEXA::Cli {
@@ -31,7 +32,9 @@ int runProgram(int count, const char* const* arguments, const Painter& paint) {
         const CommandLine line = parseCommandLine(count, arguments);
         if (line.render) return render(*line.render, paint, console);
         if (line.check) return check(*line.check, *IO::FileStream::standardOutput(), console);
-        return show(line.fonts ? listFonts(*line.fonts) : line.answer, console);
+        if (line.fonts) return show(listFonts(*line.fonts), console);
+        if (line.schema) return show(describeDocuments(*line.schema), console);
+        return show(line.answer, console);
     } catch (const std::exception& error) {  // fonts that are not there, output that cannot be written, no memory
         console.write("vexa: error: " + printable(error.what()) + "\n");
         return kFailed;

@@ -2,6 +2,7 @@
 
 #include "tests/cairo/CairoTesting.h"
 #include "vexa/support/core/Exception.h"
+#include "vexa/surfaces/cairo/PdfCatalog.h"
 
 namespace VEXA {
 namespace {
@@ -16,6 +17,20 @@ std::string infoOf(const std::string& pdf) { return outputOf("pdfinfo INPUT", pd
 std::string fact(const std::string& info, const std::string& name) {
     std::smatch found;
     return std::regex_search(info, found, std::regex("(^|\n)" + name + ": +([^\n]*)")) ? found[2].str() : "none";
+}
+
+TEST(Pdf, WithoutAnObjectOfItsTableIsNotWhole) {
+    const std::string objects = "%PDF-1.5\n1 0 obj\n<< >>\nendobj\n";  // the object stands at byte 9
+    const auto withEntries = [&](const std::string& second, const std::string& size) {
+        return objects + "xref\n0 3\n0000000000 65535 f \n0000000009 00000 n \n" + second +
+               " 00000 n \ntrailer\n<< /Size " + size + "\n>>\nstartxref\n" + std::to_string(objects.size()) +
+               "\n%%EOF\n";
+    };
+    EXPECT_FALSE(hasLostObjects(withEntries("0000000009", "2"))) << "object 1 alone, where it belongs";
+    EXPECT_TRUE(hasLostObjects(withEntries("0000000009", "3"))) << "object 1 in the place of object 2";
+    EXPECT_TRUE(hasLostObjects(withEntries("9999999999", "3"))) << "behind the end";
+    EXPECT_FALSE(hasLostObjects(objects + "startxref\n9\n/Size 3\n")) << "no table that can be read";
+    EXPECT_FALSE(hasLostObjects(pdfOf(kSquare, {}, {400, 300})));
 }
 
 TEST(Pdf, APxIsThreeQuartersOfAPoint) {

@@ -68,6 +68,13 @@ TEST(CommandLine, ReadsEveryOptionOfCheck) {
     EXPECT_FALSE(parse({"render", "a", "-o", "b"}).render->isStrict);
 }
 
+TEST(CommandLine, ReadsEveryOptionOfSchema) {
+    EXPECT_EQ(parse({"schema", "--format", "markdown"}).schema->format, "markdown");
+    EXPECT_EQ(parse({"schema"}).schema->format, "xsd") << "what editors read";
+    EXPECT_EQ(parse({"render", "fonts", "schema"}).render->inputs, (std::vector<std::string>{"fonts", "schema"}))
+        << "documents may have the names of commands";
+}
+
 TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
     const std::tuple<std::vector<const char*>, ExitStatus, const char*, const char*> cases[] = {
         {{}, kWrongUsage, "render", "the bare program lists its commands, and is no success"},
@@ -77,6 +84,8 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
         {{"fonts", "--help"}, kDone, "vexa fonts --family", "help of the other command"},
         {{"check", "--help"}, kDone, "hints never do", "help of the third one"},
         {{"--help"}, kDone, "check", "the help of the program names all commands"},
+        {{"schema", "--help"}, kDone, "vexa schema --format", "help of the fourth one"},
+        {{"schema", "a.xml"}, kWrongUsage, "vexa schema: ", "a schema is of no document"},
         {{"draw"}, kWrongUsage, "vexa: ", "an unknown command"},
         {{"render", "a.xml", "--colour"}, kWrongUsage, "vexa render: ", "an unknown option"},
         {{"render", "a.xml", "--out"}, kWrongUsage, "--out", "an abbreviation is not guessed"},
@@ -89,7 +98,7 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
     };
     for (const auto& [arguments, status, part, why] : cases) {
         const CommandLine line = parse(arguments);
-        EXPECT_FALSE(line.render || line.fonts || line.check) << why;
+        EXPECT_FALSE(line.render || line.fonts || line.check || line.schema) << why;
         EXPECT_EQ(line.answer.status, status) << why;
         EXPECT_NE(line.answer.text.find(part), std::string::npos) << why << "\n" << line.answer.text;
     }

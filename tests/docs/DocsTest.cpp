@@ -2,9 +2,11 @@
 #include <stdlib.h>
 #include <sys/wait.h>
 
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -85,13 +87,35 @@ TEST(Docs, PagesShowTheFilesTheyName) {
     }
 }
 
+/// The anchors of a page's headings: in lower case, hyphens for spaces, other marks left out.
+std::set<std::string> anchorsOf(const std::string& page) {
+    std::set<std::string> anchors;
+    for (const Found& heading : textsBetween(page, "\n#", "\n")) {
+        std::string anchor;
+        for (const char c : heading.text.substr(heading.text.find(' ') + 1)) {
+            if (std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '-')
+                anchor += static_cast<char>(std::tolower(c));
+            if (c == ' ') anchor += '-';
+        }
+        EXPECT_TRUE(anchors.insert(anchor).second) << "two headings have the anchor " << anchor;
+    }
+    return anchors;
+}
+
 TEST(Docs, LinksLeadSomewhere) {
     std::size_t count = 0;
     for (const fs::path& path : pages()) {
-        for (const Found& link : textsBetween(contentOf(path), "](", ")")) {
+        const std::string page = contentOf(path);
+        for (const Found& link : textsBetween(page, "](", ")")) {
             if (link.text.find(':') != std::string::npos) continue;  // an address outside
-            EXPECT_TRUE(fs::exists(path.parent_path() / link.text)) << path << " links to " << link.text;
+            const std::size_t hash = link.text.find('#');
+            const fs::path target = hash == 0 ? path : path.parent_path() / link.text.substr(0, hash);
+            EXPECT_TRUE(fs::exists(target)) << path << " links to " << link.text;
             ++count;
+            if (hash == std::string::npos) continue;
+            static std::map<fs::path, std::set<std::string>> anchors;
+            if (!anchors.contains(target)) anchors[target] = anchorsOf(contentOf(target));
+            EXPECT_TRUE(anchors[target].contains(link.text.substr(hash + 1))) << path << " links to " << link.text;
         }
     }
     EXPECT_GT(count, 5U);

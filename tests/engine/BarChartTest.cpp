@@ -41,6 +41,8 @@ TEST(BarChart, FlatBarsReachFromTheOriginToTheValue) {
     EXPECT_EQ(bodiesOf(barChart(kUpright, "", "<serie fill='#010101'>" + points("5=4") + "</serie>")),
               "1 40,30 20 x 20; ")
         << "20 px wide by default";
+    const CapturedLog log;
+    EXPECT_EQ(bodiesOf(barChart(kUpright, "", bars(1, "5=4 5=-4"))), "1 45,30 10 x 20; ") << "the first of a category";
 }
 
 TEST(BarChart, GroupsTheBarsOfACategory) {

@@ -55,6 +55,31 @@ TEST(Marker, GoesWithABoxThatStands) {
     EXPECT_NE(marker(deep, "bar").find("line  42,30 50,30; "), std::string::npos) << "half a depth to the left";
     EXPECT_NE(marker(deep, "line").find("line  46,30 54,30; "), std::string::npos);
     EXPECT_EQ(marker("", "bar"), "line  46,30 54,30; ");
+    const std::string cylinder =
+        "<bar-chart bar-shape='cylinder'><serie " + style + "><data-point category='5' value='4'/>";
+    const std::string lying =
+        "<category-axis min='0' max='20' orientation='vertical'/><value-axis min='-10' max='10'/>";
+    const auto ofCylinder = [&](const std::string& axes) {
+        return markersOf(fixedPlot(deep, cylinder + "</serie></bar-chart>" + axes));
+    };
+    EXPECT_NE(ofCylinder(kUpright).find("line  42,30 50,30; "), std::string::npos);
+    EXPECT_NE(ofCylinder(lying).find("line  136,75 144,75; "), std::string::npos) << "what lies keeps it in place";
+}
+
+TEST(Marker, OfAStackedBarStandsAtTheTopOfTheBar) {
+    const auto serie = [](const std::string& point) {
+        return "<serie fill='#080808' stroke='#090909' marker='dash' marker-width='8'><data-point category='5' " +
+               point + "/></serie>";
+    };
+    const WithFonts fonts;
+    const std::string plot = fixedPlot("", "<bar-chart grouping='stacked'>" + serie("value='3'") +
+                                               serie("value='4' caption='AB'") + "</bar-chart>" + kUpright);
+    std::string marks;
+    for (const DrawCall& call : drawingCalls(plot)) {
+        if (call.op == "line" && call.stroke == "#090909") marks += call.points + "; ";
+        if (call.op == "text") marks += "text " + onPage(call) + "; ";
+    }
+    EXPECT_EQ(marks, "46,35 54,35; text 44,11; 46,15 54,15; ") << "5 px a unit: 3 above 50, then 4 more";
 }
 
 TEST(Marker, OfAnUnknownTypeIsRefused) {

@@ -125,6 +125,17 @@ TEST(PieChart, WallsAreAsDeepAsTheChart) {
     EXPECT_EQ(upper.size(), 3U) << "a slice in the upper half has no outer wall";
 }
 
+TEST(PieChart, AHalfSliceHasNoWallOfTheOtherHalf) {
+    // Shares that do not add up to a half exactly. 200 px by 190 px and 10 px deep, the level at 95.
+    const std::string deep = kOverflow + "aspect-3d-view='true' show-captions='false' ";
+    const auto upper = drawingCalls(pieWith(deep, slice("1") + slice("4") + slice("1") + slice("6")), "path");
+    ASSERT_EQ(upper.size(), 8U);
+    EXPECT_EQ(upper[7].points, "200,95 200,95 200,95 200,95 200,105 200,105 200,105 200,105") << "nothing to see";
+    const auto lower = drawingCalls(
+        pieWith(deep + "pie-shape='doughnut' start-angle='180'", slice("6") + slice("3") + slice("9")), "path");
+    EXPECT_EQ(lower.size(), 8U) << "three slices and their outer walls, two inner ones";
+}
+
 TEST(PieChart, SharesAreThoseOfAbsoluteValues) {
     const auto pathsOf = [](const std::string& slices) {
         std::string points;
@@ -190,6 +201,13 @@ TEST(PieChart, CaptionsAreBrokenAndPlaced) {
     const auto text =
         drawingCalls(pieWith("caption-color='#00aa00' stroke='red'", slice("1", "A", "fill='blue'")), "text");
     EXPECT_EQ(text.at(0).fill + text.at(0).stroke, "#00aa00") << "not in the slice's own paint";
+    EXPECT_EQ(textsOf(pieWith(kOverflow + "caption-placement='center' start-angle='315'",
+                              slice("1", "A", "caption-placement='inside-end'") + slice("1", "B"))),
+              "A 161.88,167.88; B 43.97,51.97")
+        << "a slice has the last word: 96 px at 45 degrees, 75 px opposite";
+    EXPECT_EQ(textsOf(pieWith(kOverflow + "caption-size='70%'", slice("1", "A B"), "width='20' height='20'")),
+              "A B -22,10")
+        << "70% of 30 px at least hold the 18 px of the text";
 }
 
 TEST(PieChart, ConnectorsLeadToOutsideCaptions) {

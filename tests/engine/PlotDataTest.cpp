@@ -117,7 +117,8 @@ TEST(PlotData, SeriesAnswerForThemselvesToo) {
     const CapturedLog log;
     const auto root = load(plot("", "",
                                 lineChart("A=3 B=x C=-1 D=7") + lineChart("A=2024-02-01 B=2023-02-01 C=y D=") +
-                                    lineChart("B=z A=y") + lineChart("")));
+                                    lineChart("B=z A=y") + lineChart("") + lineChart("A=1 B=x") +
+                                    lineChart("A=2024-01-01 B=x") + lineChart("A=1 B=2024-01-01")));
     const auto serie = [&](std::size_t i) -> VexaSerie& { return *plotOf(*root).getCharts()[i]->getSeries()[0]; };
     const auto extremes = [&](std::size_t i, bool categories) {
         return serie(i).getMinValue(categories).getValue().toUtf8() + ' ' +
@@ -130,6 +131,9 @@ TEST(PlotData, SeriesAnswerForThemselvesToo) {
     EXPECT_EQ(extremes(2, true), "B A") << "the first and the last text";
     EXPECT_EQ(extremes(3, false), " ");
     EXPECT_EQ(serie(3).getValueType(false), ValueKind::None);
+    EXPECT_EQ(extremes(4, false), "x x") << "a number and a text: a text";
+    EXPECT_EQ(extremes(5, false), "x x") << "a date and a text: a text";
+    EXPECT_EQ(extremes(6, false), "1 1") << "a number and a date: a number";
     EXPECT_EQ(failureOf([] { make<VexaSerie>()->prepareDataPoints(); }), kNullPointer) << "no axis to ask";
     const XmlObjPtr<VexaDataPoint> lost = serie(2).getDataPoints()[0];
     serie(2).removeDataPoints([](const VexaDataPoint&) { return true; });

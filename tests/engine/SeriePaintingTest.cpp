@@ -110,6 +110,14 @@ TEST(Serie, OfAnUnknownChartIsRefused) {
     EXPECT_EQ(render(ContainerKind::None, 0), "");
 }
 
+TEST(Serie, WithoutPointsNeedsNoAxes) {
+    const auto root = load(rootWith("theme='none'", "<plot-area><line-chart><serie/></line-chart></plot-area>"));
+    const auto surface = make<RecordingSurface>();
+    VexaRenderContext context(surface, 400, 300);
+    VexaSerie& serie = *plotOf(*root).getCharts()[0]->getSeries()[0];
+    EXPECT_EQ(failureOf([&] { serie.render(context); }) + surface->calls, "");
+}
+
 TEST(Serie, KeepsTheFirstPointOfEachCategoryInAnyOrder) {
     const CapturedLog log;
     const std::string dates = "2024-01-01=1 2024-01-02=2 2024-02-01=3";

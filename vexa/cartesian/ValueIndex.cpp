@@ -6,18 +6,13 @@ namespace {
 
 constexpr std::size_t kFirstSlots = 16;
 
-/// Spreads the bits: dates differ by multiples of a day, a factor of 2^7 in seconds. Fibonacci hashing, Knuth, The Art
-/// of Computer Programming, volume 3, section 6.4.
-std::uint32_t spreadHash(const Value& value) noexcept {
-    const std::uint64_t product = static_cast<std::uint64_t>(value.hash()) * 0x9E3779B97F4A7C15U;
-    return static_cast<std::uint32_t>(product >> 32U);
-}
+std::uint32_t shortHash(const Value& value) noexcept { return static_cast<std::uint32_t>(value.hash()); }
 
 }  // namespace
 
 std::size_t ValueIndex::add(const Value& value) {
     if (slots_.size() < 2 * (values_.size() + 1)) grow();
-    const std::uint32_t hash = spreadHash(value);
+    const std::uint32_t hash = shortHash(value);
     Slot& slot = slots_[slotOf(value, hash)];
     if (slot.entry == 0) {
         values_.push_back(value);
@@ -28,7 +23,7 @@ std::size_t ValueIndex::add(const Value& value) {
 
 std::size_t ValueIndex::find(const Value& value) const noexcept {
     if (slots_.empty()) return kNone;
-    const Slot& slot = slots_[slotOf(value, spreadHash(value))];
+    const Slot& slot = slots_[slotOf(value, shortHash(value))];
     return slot.entry == 0 ? kNone : slot.entry - 1;
 }
 

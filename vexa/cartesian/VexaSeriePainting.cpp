@@ -43,6 +43,7 @@ VexaDataPoint* VexaSerie::findDataPoint(VexaRenderContext& context, const Value&
 }
 
 void VexaSerie::render(VexaRenderContext& context) {
+    if (dataPoints_.isEmpty()) return;  // nothing to paint needs no axes
     VexaContainerObject& chart = VexaContainerObject::of(*this);
     render(context, ChartPass(chart, context), indexOf(chart.getSeries(), this));
 }

@@ -2,11 +2,17 @@
 
 #include <cmath>
 
+#include "vexa/support/core/Math.h"
+
 namespace VEXA {
 
 namespace {
 
 constexpr float kSameHeight = 0.001F;  // px
+constexpr double kSameAngle = 1e-6;    // radians
+
+/// Half of a pie is not wide: what rounding adds to it would give it the wall of the other half too.
+bool isWiderThanHalf(const SliceGeometry& slice) noexcept { return slice.span() > Math::kPi + kSameAngle; }
 
 /// On which side of a level line the ends of a rim lie. A point on the line is on both.
 struct RimSides {
@@ -32,7 +38,7 @@ std::optional<WallEnds> outerWall(const SliceGeometry& slice) noexcept {
     const PointF left{0, height / 2};
     const PointF right{width, height / 2};
     const RimSides rim(slice.outerStart, slice.outerEnd, height / 2);
-    const bool isWide = slice.isMoreThanHalf();
+    const bool isWide = isWiderThanHalf(slice);
     if (isWide && rim.areLevel) return WallEnds{left, right};
     if (rim.startsAbove && rim.endsBelow) return WallEnds{left, slice.outerEnd};
     if (rim.startsBelow && rim.endsAbove) return WallEnds{slice.outerStart, right};
@@ -46,7 +52,7 @@ std::optional<WallEnds> innerWall(const SliceGeometry& slice) noexcept {
     const PointF left{width / 4, height / 2};
     const PointF right{width / 4 * 3, height / 2};
     const RimSides rim(slice.innerStart, slice.innerEnd, height / 2);
-    const bool isWide = slice.isMoreThanHalf();
+    const bool isWide = isWiderThanHalf(slice);
     if (isWide && rim.areLevel) return WallEnds{right, left};
     if (rim.startsAbove && rim.endsBelow) return WallEnds{slice.innerStart, left};
     if (rim.startsBelow && rim.endsAbove) return WallEnds{right, slice.innerEnd};

@@ -72,6 +72,7 @@ const SmartPtr<Stroke>& VexaPie::getConnectorStroke() {
 
 void VexaPie::render(VexaRenderContext& context) {
     const RenderContextScope scope(context.getRenderContext());
+    connectorStroke_ = nullptr;  // its colour may have been changed since the last render
     areaRect_ = getAreaRect(context);
     if (*labelsPosition_ == LabelsPosition::Fit && !fitted_) fit(context);
     const bool isPainted = layoutSlices(context);

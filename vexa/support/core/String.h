@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "vexa/support/core/KeyedHash.h"
+
 namespace VEXA {
 
 /// Header of a shared text; the code points follow it in memory.
@@ -107,6 +109,6 @@ void appendUtf8(char32_t character, std::string& out);
 template <>
 struct std::hash<VEXA::String> {
     std::size_t operator()(const VEXA::String& text) const noexcept {
-        return std::hash<std::u32string_view>()(text.view());
+        return VEXA::keyedHash(text.view().data(), text.view().size() * sizeof(char32_t));
     }
 };

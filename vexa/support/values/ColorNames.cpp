@@ -7,11 +7,6 @@ namespace VEXA {
 
 namespace {
 
-struct ColorName {
-    std::string_view name;
-    std::uint32_t rgb;
-};
-
 // The named colours of CSS Color Module Level 4.
 constexpr ColorName kColorNames[] = {
     {"aliceblue", 0xF0F8FF},
@@ -175,6 +170,7 @@ constexpr auto kNames = [] {
 
 }  // namespace
 
+std::span<const ColorName> namedColors() noexcept { return kColorNames; }
 std::span<const std::string_view> colorNames() noexcept { return kNames; }
 
 std::optional<std::uint32_t> findColorName(std::string_view name) noexcept {

@@ -1,5 +1,6 @@
 #include "vexa/support/values/Value.h"
 
+#include <bit>
 #include <utility>
 
 #include "vexa/support/core/Format.h"
@@ -90,11 +91,11 @@ bool Value::equals(const Value& other) const noexcept {
 std::size_t Value::hash() const noexcept {
     switch (kind_) {
         case ValueKind::Number:
-            return std::hash<double>()(raw<double>());
+            return keyedHash(std::bit_cast<std::uint64_t>(raw<double>() + 0.0));  // -0 equals 0
         case ValueKind::Date:
-            return std::hash<std::int64_t>()(raw<std::int64_t>());
+            return keyedHash(static_cast<std::uint64_t>(raw<std::int64_t>()));
         case ValueKind::Text:
-            return std::hash<std::u32string_view>()(textView());
+            return keyedHash(textView().data(), textView().size() * sizeof(char32_t));
         case ValueKind::None:
             break;
     }

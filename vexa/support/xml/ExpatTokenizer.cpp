@@ -96,7 +96,7 @@ public:
 
     void pause() noexcept override { XML_StopParser(parser_.get(), XML_TRUE); }
 
-    SourcePlace getPlace() noexcept override {
+    SourcePlace getPlace() override {
         if (!usesCounter()) return expatsPlace();
         const auto index = static_cast<std::uint64_t>(std::max<XML_Index>(XML_GetCurrentByteIndex(parser_.get()), 0));
         while (counted_.fed() < index && !uncounted_.empty()) feedCounter();

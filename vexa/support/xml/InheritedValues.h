@@ -23,9 +23,9 @@ public:
 
     /// Holds a reference to the value of its own.
     void carry(int id, const XmlValueType& type, XmlValueBox& value) {
-        value.addReference();
         Entry& entry = inForce_[static_cast<std::size_t>(id)];
         hidden_.push_back({id, entry});
+        value.addReference();
         entry = {&type, &value};
         mask_ |= std::uint64_t{1} << id;
     }

@@ -213,15 +213,14 @@ private:
         } else if (attribute != nullptr) {
             XmlValueBox* const value = parse(attribute->getType(), info, token);
             if (value == nullptr) return;
-            if (attribute->isInherited()) carry(attribute->inheritableId(), attribute->getType(), *value, info);
             attribute->setGiven(object, value);
+            if (attribute->isInherited()) carry(attribute->inheritableId(), attribute->getType(), *value, info);
         } else if (id >= 0) {
             const XmlValueType& type =
                 *XmlObjectFactory::instance().inheritableNames()[static_cast<std::size_t>(id)].type;
-            XmlValueBox* const value = parse(type, info, token);
-            if (value == nullptr) return;
-            carry(id, type, *value, info);
-            type.release(value);
+            const auto release = [&](XmlValueBox* unused) { type.release(unused); };
+            const std::unique_ptr<XmlValueBox, decltype(release)> value(parse(type, info, token), release);
+            if (value != nullptr) carry(id, type, *value, info);
         } else {
             object.handleUnrecognizedAttribute(String(name), String(token.name.uri), String(token.value));
             // Attributes of other namespaces are other programs' business.

@@ -46,7 +46,7 @@ public:
     /// start.
     virtual void pause() noexcept = 0;
     /// Where the token that is being handled begins.
-    virtual SourcePlace getPlace() noexcept = 0;
+    virtual SourcePlace getPlace() = 0;
 };
 
 }  // namespace VEXA

@@ -60,6 +60,19 @@ std::string catalogEntries(const DocumentInfo& info) {
     return entries;
 }
 
+bool hasLostObjects(std::string_view pdf) {
+    const auto table = numberBehind(pdf, "startxref");
+    const auto size = numberBehind(pdf, "/Size ");
+    if (!table || !size) return false;
+    for (std::size_t object = 1; object < *size; ++object) {
+        const auto place = placeOf(pdf, *table, object);
+        if (!place) return false;
+        const std::string head = std::to_string(object) + " 0 obj";
+        if (pdf.substr(std::min(*place, pdf.size()), head.size()) != head) return true;
+    }
+    return false;
+}
+
 void addToCatalog(std::string& pdf, std::string_view entries) {
     if (entries.empty()) return;
     const auto table = numberBehind(pdf, "startxref");

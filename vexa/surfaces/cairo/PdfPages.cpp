@@ -1,5 +1,7 @@
 #include "vexa/surfaces/cairo/PdfPages.h"
 
+#include <new>
+
 #include "vexa/support/core/Exception.h"
 #include "vexa/support/core/Limits.h"
 #include "vexa/surfaces/cairo/PdfCatalog.h"
@@ -97,6 +99,7 @@ void PdfPages::write(IO::Stream& stream) {
     cairo().pdf_surface_set_metadata(surface_.get(), CAIRO_PDF_METADATA_CREATE_DATE, "");
     cairo().surface_finish(surface_.get());
     requireSuccess(cairo().surface_status(surface_.get()));
+    if (hasLostObjects(file_.bytes)) throw std::bad_alloc();
     addToCatalog(file_.bytes, catalogEntries(info_));
     stream.write(file_.bytes);
     stream.flush();
