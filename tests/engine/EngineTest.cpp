@@ -36,14 +36,17 @@ TEST(Engine, RefusesWhatIsNoChartDocument) {
 
 TEST(Engine, RenderPageBracketsThePictureWithADocumentOfOnePage) {
     const Case<const char*, const char*> cases[] = {
-        {"", "800 600", "the reference size"},
-        {"width='3in' height='20'", "288 20", "a size in px"},
-        {"width='400' height='300' viewBox='0 0 10 10'", "400 300", "a view box does not change the page"},
+        {"", "800 600; rectangle 0 0 800 600", "the reference size"},
+        {"width='3in' height='20'", "288 20; rectangle 0 0 288 20", "a size in px"},
+        {"width='50%' height='50%'", "400 300; rectangle 0 0 200 150",
+         "half of the reference size; the background is half of the page"},
+        {"width='400' height='300' viewBox='0 0 10 10'", "400 300; rectangle 0 0 400 300",
+         "a view box does not change the page"},
     };
     for (const auto& c : cases) {
         const auto surface = make<RecordingSurface>();
         VexaEngine::renderPage(streamOf(rootWith(c.in, "")), surface);
-        EXPECT_TRUE(surface->calls.starts_with("beginDocument; beginPage " + std::string(c.out) + "; rect")) << c.why;
+        EXPECT_TRUE(surface->calls.starts_with("beginDocument; beginPage " + std::string(c.out) + " 0 0; ")) << c.why;
         EXPECT_TRUE(surface->calls.ends_with(" 0 0; endPage; endDocument; ")) << surface->calls;
     }
     const auto surface = make<RecordingSurface>();
@@ -125,6 +128,15 @@ TEST(EngineInheritance, NearestAncestorThatCarriesTheAttributeDecides) {
     EXPECT_EQ(attributeOf(*static_cast<VexaPie&>(*root->getBodies()[0]).getSlices()[0], "caption-placement"), "center");
     EXPECT_EQ(attributeOf(*static_cast<VexaSpider&>(*root->getBodies()[1]).getAxes()[0], "min"), "-2147483648")
         << "bounds of a spoke stand alone";
+    const auto plot = load(rootWith("min='5' padding='7'",
+                                    "<plot-area><value-axis caption-offset='9'><display-values/></value-axis>"
+                                    "<category-axis/></plot-area><legend/>"));
+    auto& axis = static_cast<VexaPlotArea&>(*plot->getBodies()[0]).getAxis(false);
+    EXPECT_EQ(attributeOf(axis, "min"), "5");
+    EXPECT_EQ(attributeOf(*axis.getDisplayValues(), "min"), "5");
+    EXPECT_EQ(attributeOf(*axis.getDisplayValues(), "caption-offset"), "9");
+    EXPECT_EQ(attributeOf(*axis.getDisplayValues(), "offset"), "4") << "another attribute";
+    EXPECT_EQ(attributeOf(*plot->getLegend(), "padding"), "7");
 }
 
 TEST(EngineInheritance, TitleHasTheRootsFont) {

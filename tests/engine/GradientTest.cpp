@@ -152,6 +152,7 @@ TYPED_TEST(Referring, WithoutARootTheTopOfTheTreeAnswers) {
     this->object_->setParent(inner.get());
     inner->setParent(this->root_.get());
     EXPECT_EQ(this->object_->getVexaRoot(), inner.get()) << "the nearest root";
+    EXPECT_EQ(inner->getVexaRoot(), inner.get()) << "a root itself";
     EXPECT_TRUE(this->object_->findReferencedObject("#l").isEmpty()) << "definitions outside it do not count";
     this->object_->setParent(defs.get());
     EXPECT_EQ(this->object_->getVexaRoot(), defs.get()) << "no root at all: the top";

@@ -67,10 +67,36 @@ TEST(Root, ThemeGoesToTheFirstBodyAndTheLegendOnceForATree) {
 }
 
 TEST(Root, PaintsBackgroundBodiesAndTitleInThisOrder) {
-    const std::string page = "<title fill='#000003'/><spider fill='#000001'/><spider fill='#000002'/>";
+    const std::string page =
+        "<pie fill='#000001'/><legend fill='#000006'/><plot-area "
+        "fill='#000002'><category-axis/><value-axis/></plot-area>"
+        "<title fill='#000005'/><spider fill='#000003'/><pie fill='#000004'/>";
+    const CapturedLog log;
     std::string order;
-    for (const auto& call : drawingCalls(rootWith("fill='#000000' theme='none'", page))) order += call.fill + ' ';
-    EXPECT_EQ(order, "#000000 #000001 #000002 #000003 ") << "the title above the bodies, wherever it stands";
+    for (const auto& call : drawingCalls(rootWith("fill='#000000' theme='none'", page)))
+        order += call.fill.empty() ? "" : call.fill.substr(6);
+    EXPECT_EQ(order, "0123456") << "title and legend above the bodies, wherever they stand";
+}
+
+TEST(Root, NeedsNoAttributesAnywhere) {
+    const CapturedLog log;
+    std::string boxes;
+    for (const auto& call : drawingCalls("<root xmlns='http://vexa-charts.org/2008/vx'><pie><slice/></pie><spider>"
+                                         "<spider-serie/><spider-axis/></spider><title/></root>",
+                                         "rectangle"))
+        boxes += call.box + "; ";
+    EXPECT_EQ(boxes, "0,0 800 x 600; 194,94 412 x 412; 0,0 800 x 600; 0,0 800 x 60; ")
+        << "page; pie, less 15% of 600 px and 4 px on each side; spider; a title of 10%";
+}
+
+TEST(Root, OnlyTheFirstBodyIsThemed) {
+    const std::string plot =
+        "<plot-area><bar-chart><serie><data-point category='A' value='1'/></serie></bar-chart><category-axis/>"
+        "<value-axis/></plot-area>";
+    std::string fills;
+    for (const auto& call : drawingCalls(rootWith("theme='red-flat'", plot + plot), "rectangle"))
+        fills += call.fill + ' ';
+    EXPECT_EQ(fills, "  #c0504d   ") << "page; background and bar of a plot, twice";
 }
 
 TEST(Root, PositionMovesAndSizeCutsThePage) {

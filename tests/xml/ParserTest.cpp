@@ -181,7 +181,9 @@ TEST(Parser, ThrowsTheFirstErrorWithoutAMonitor) {
         EXPECT_EQ(e.getPlace(), (SourcePlace{2, 1}));
     }
     EXPECT_EQ(log.lines, (std::vector<std::string>{"1:27: warning 3005", "2:1: error 3003"}));
+    log.lines.clear();
     EXPECT_THROW(read(box("<book>")), Exception);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"1:35: error 3017"})) << "what is logged is what is thrown";
 }
 
 TEST(Parser, TreatsUnknownElementsAsAsked) {

@@ -148,7 +148,7 @@ private:
         if (error == XML_ERROR_UNKNOWN_ENCODING) {
             raise(Exception(3015, {quoteForMessage(String(encoding_))}), "ExpatTokenizer", __LINE__, getPlace());
         }
-        raise(Exception(3000, {String(describe(error))}), "ExpatTokenizer", __LINE__, getPlace());
+        raise(handler_.malformed(String(describe(error))), "ExpatTokenizer", __LINE__, getPlace());
     }
 
     XML_Status feed() { return whole_ ? feedWhole() : feedBlock(); }

@@ -120,6 +120,13 @@ public:
         }
     }
 
+    /// Malformed XML is mostly a tag that was not closed: says which element was open.
+    Exception malformed(const String& what) const override {
+        if (frames_.empty() || skippedDepth_ > 0) return XmlTokenHandler::malformed(what);
+        const Frame& open = frames_.back();
+        return Exception(3017, {what, open.info->getElementName(), std::int64_t{open.object->getPlace().line}});
+    }
+
 private:
     struct Frame {
         XmlObject* object;  // held by its parent, the top one by whoever took it
@@ -135,30 +142,13 @@ private:
             tokenizer_->run();
         } catch (const Exception& problem) {
             failed_ = true;
-            const bool isMalformed = problem.getCode() == 3000 && !frames_.empty() && skippedDepth_ == 0;
-            if (monitor_ != nullptr && problem.getPlace().isKnown()) {
-                report(isMalformed ? withOpenElement(problem) : problem);
-            } else if (isMalformed) {
-                throw withOpenElement(problem);
-            } else {
-                throw;
-            }
+            if (monitor_ == nullptr || !problem.getPlace().isKnown()) throw;
+            report(problem);
         }
     }
 
     void report(const Exception& problem) {
         monitor_->report({Severity::Error, problem.getCode(), problem.getMessage(), problem.getPlace()});
-    }
-
-    /// Malformed XML is mostly a tag that was not closed: says which element was open.
-    Exception withOpenElement(const Exception& problem) const {
-        VariantArray arguments = problem.getArguments();
-        arguments.emplace_back(frames_.back().info->getElementName());
-        arguments.emplace_back(std::int64_t{frames_.back().object->getPlace().line});
-        Exception told(3017, std::move(arguments));
-        told.initCodeLocation(problem.getCodeLocation().source, problem.getCodeLocation().line);
-        told.setPlace(problem.getPlace());
-        return told;
     }
 
     /// False when the element is passed over with all that is in it.

@@ -95,7 +95,6 @@ private:
 class XmlObjectTypeInfo {
 public:
     explicit XmlObjectTypeInfo(int typeId) noexcept : typeId_(typeId) {}
-    virtual ~XmlObjectTypeInfo();
     XmlObjectTypeInfo(const XmlObjectTypeInfo&) = delete;
     XmlObjectTypeInfo& operator=(const XmlObjectTypeInfo&) = delete;
 
@@ -119,6 +118,8 @@ public:
     virtual bool hasChildren() const noexcept { return !elements_.empty(); }
     /// The record of the class it derives from; null for XmlObject.
     virtual XmlObjectTypeInfo* getParentTypeInfo() const = 0;
+
+    virtual ~XmlObjectTypeInfo();
 
     /// The children of an object of this class, kind by kind, those of one kind in document order.
     Vector<XmlObject*> childrenOf(const XmlObject& object) const;

@@ -28,6 +28,8 @@ public:
     virtual void endElement() = 0;
     /// A piece of character content, UTF-8; a run may come in several pieces.
     virtual void text(std::string_view piece) = 0;
+    /// The exception for a document that is not well-formed; `what` says why.
+    virtual Exception malformed(const String& what) const { return Exception(3000, {what}); }
 };
 
 /// Splits an XML 1.0 document with namespaces into tokens. UTF-8, UTF-16, ISO-8859-1 and US-ASCII are read. Document
