@@ -6,6 +6,7 @@
 #include "cli/RenderOptions.h"
 #include "cli/SchemaOptions.h"
 #include "cli/check/CheckOptions.h"
+#include "cli/shell/ShellOptions.h"
 
 namespace VEXA::Cli {
 
@@ -17,5 +18,7 @@ void addRenderOptions(CLI::App& command, RenderOptions& options);
 void addFontsOptions(CLI::App& command, FontsOptions& options);
 void addCheckOptions(CLI::App& command, CheckOptions& options);
 void addSchemaOptions(CLI::App& command, SchemaOptions& options);
+void addCompletionOptions(CLI::App& command, CompletionOptions& options);
+void addManOptions(CLI::App& command, ManOptions& options);
 
 }  // namespace VEXA::Cli

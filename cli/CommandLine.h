@@ -7,6 +7,7 @@
 #include "cli/RenderOptions.h"
 #include "cli/SchemaOptions.h"
 #include "cli/check/CheckOptions.h"
+#include "cli/shell/ShellOptions.h"
 
 namespace VEXA::Cli {
 
@@ -16,6 +17,8 @@ struct CommandLine {
     std::optional<FontsOptions> fonts;
     std::optional<CheckOptions> check;
     std::optional<SchemaOptions> schema;
+    std::optional<CompletionOptions> completion;
+    std::optional<ManOptions> man;
     Answer answer;
 };
 

@@ -52,11 +52,11 @@ bool isBuiltIn(OutputFormat format) { return rowOf(format).make != nullptr; }
 
 std::string_view extensionOf(OutputFormat format) { return rowOf(format).name; }
 
-std::string formatNames() {
+std::string formatNames(const char* separator) {
     std::string names;
     for (const FormatRow& row : formats()) {
         if (row.make == nullptr) continue;
-        if (!names.empty()) names += ", ";
+        if (!names.empty()) names += separator;
         names += row.name;
     }
     return names;

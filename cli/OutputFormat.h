@@ -23,8 +23,8 @@ bool isBuiltIn(OutputFormat format);
 /// The extension of its files, without the dot; also its name.
 std::string_view extensionOf(OutputFormat format);
 
-/// The names of those that are built in, for messages: "svg, json".
-std::string formatNames();
+/// The names of those that are built in: "svg, json".
+std::string formatNames(const char* separator = ", ");
 
 /// A surface that writes this format to `stream`. REQUIRES: the format is built in.
 SmartPtr<RenderContext> makeSurface(OutputFormat format, SmartPtr<IO::Stream> stream, const PictureOptions& options);

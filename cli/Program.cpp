@@ -10,6 +10,8 @@
 #include "cli/RenderCommand.h"
 #include "cli/SchemaCommand.h"
 #include "cli/check/CheckCommand.h"
+#include "cli/shell/Completion.h"
+#include "cli/shell/ManPage.h"
 
 namespace VEXA::Cli {
 namespace {
@@ -33,6 +35,8 @@ int runProgram(int count, const char* const* arguments, const Painter& paint) {
         if (line.render) return render(*line.render, paint, console);
         if (line.check) return check(*line.check, *IO::FileStream::standardOutput(), console);
         if (line.fonts) return show(listFonts(*line.fonts), console);
+        if (line.completion) return show(completeFor(*line.completion), console);
+        if (line.man) return show({makeManPage(makeOptionTable())}, console);
         if (line.schema) return show(describeDocuments(*line.schema), console);
         return show(line.answer, console);
     } catch (const std::exception& error) {  // fonts that are not there, output that cannot be written, no memory

@@ -2,6 +2,7 @@
 #include <CLI/Formatter.hpp>
 
 #include "cli/CommandArguments.h"
+#include "cli/OutputFormat.h"
 
 namespace VEXA::Cli {
 namespace {
@@ -53,7 +54,8 @@ void addRenderOptions(CLI::App& command, RenderOptions& options) {
     command.add_option("FILE", options.inputs, "Chart documents; - is standard input")->type_name("");
     command.add_option("-o,--output", options.output, "File to draw to; - is standard output")->type_name("FILE");
     command.add_option("--out-dir", options.outputDirectory, "Directory to draw to, made if missing")->type_name("DIR");
-    command.add_option("--to", options.format, "Format; else the name of the output tells")->type_name("FORMAT");
+    command.add_option("--to", options.format, "Format; else the name of the output tells")
+        ->type_name(formatNames("|"));
     command.add_option("-j,--jobs", options.jobs, "Files drawn at once; else as many as there are cores")
         ->check(jobs)
         ->type_name("N");

@@ -24,7 +24,7 @@ Exit status: 0 it is printed, 1 it could not be written, 2 the command line is w
 }  // namespace
 
 void addSchemaOptions(CLI::App& command, SchemaOptions& options) {
-    command.add_option("--format", options.format, "xsd or markdown; else xsd")->type_name("FORMAT");
+    command.add_option("--format", options.format, "What to print; else xsd")->type_name("xsd|markdown");
     command.footer(kFooter);
 }
 

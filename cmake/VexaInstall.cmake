@@ -20,6 +20,20 @@ if(VEXA_CAIRO)
 endif()
 if(VEXA_CLI)
     install(TARGETS vexa_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    # The program writes its manual page and completions itself.
+    set(shell "${PROJECT_BINARY_DIR}/shell")
+    add_custom_command(OUTPUT "${shell}/vexa.1" "${shell}/vexa" "${shell}/_vexa" "${shell}/vexa.fish"
+                       COMMAND "${CMAKE_COMMAND}" -E make_directory "${shell}"
+                       COMMAND vexa_cli man > "${shell}/vexa.1"
+                       COMMAND vexa_cli completion bash > "${shell}/vexa"
+                       COMMAND vexa_cli completion zsh > "${shell}/_vexa"
+                       COMMAND vexa_cli completion fish > "${shell}/vexa.fish"
+                       DEPENDS vexa_cli VERBATIM)
+    add_custom_target(vexa_shell ALL DEPENDS "${shell}/vexa.1")
+    install(FILES "${shell}/vexa.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    install(FILES "${shell}/vexa" DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+    install(FILES "${shell}/_vexa" DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+    install(FILES "${shell}/vexa.fish" DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vexa)

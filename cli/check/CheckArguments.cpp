@@ -31,8 +31,8 @@ void addCheckOptions(CLI::App& command, CheckOptions& options) {
     jobs.description("");  // the usage line has no room for it
     command.add_option("FILE", options.inputs, "Chart documents; - is standard input")->type_name("");
     command.add_flag("--strict", options.isStrict, "Fail for warnings as for errors");
-    command.add_option("--diagnostics", options.diagnostics, "How problems are told: text or json; else text")
-        ->type_name("FORM");
+    command.add_option("--diagnostics", options.diagnostics, "How problems are told; else text")
+        ->type_name("text|json");
     command.add_option("-j,--jobs", options.jobs, "Files checked at once; else as many as there are cores")
         ->check(jobs)
         ->type_name("N");
