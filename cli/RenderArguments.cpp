@@ -19,6 +19,7 @@ Examples:
   vexa render charts/*.xml --out-dir out --jobs 4    many at once: out/NAME.svg for charts/NAME.xml
   vexa render may.xml june.xml -o report.pdf         a page for each, in this order
   vexa render chart.xml -o chart.png --dpi 300 --background white
+  vexa render --watch chart.xml -o chart.svg         again and again, while one writes
   vexa render --strict chart.xml -o chart.svg        no picture rather than one with a warning
 
 Messages go to standard error, one a line: FILE:LINE:COLUMN: warning: TEXT, or error. A file is
@@ -60,6 +61,7 @@ void addRenderOptions(CLI::App& command, RenderOptions& options) {
         ->check(jobs)
         ->type_name("N");
     command.add_flag("--strict", options.isStrict, "Fail for warnings as for errors: such a document gives no picture");
+    command.add_flag("--watch", options.isWatching, "Draw again what changes, until Ctrl-C");
     addPictureOptions(command, options);
     command.footer(kFooter);
 }

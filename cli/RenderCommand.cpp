@@ -11,6 +11,7 @@
 #include "cli/Messages.h"
 #include "cli/Progress.h"
 #include "cli/RenderPlan.h"
+#include "cli/watch/Watch.h"
 
 namespace VEXA::Cli {
 namespace {
@@ -73,9 +74,8 @@ ExitStatus refuse(const std::string& problem, Console& console) {
     return kWrongUsage;
 }
 
-}  // namespace
-
-ExitStatus render(const RenderOptions& options, const Painter& paint, Console& console) {
+/// Draws all documents once.
+ExitStatus renderOnce(const RenderOptions& options, const Painter& paint, Console& console) {
     const RenderPlan plan = planRender(options);
     if (!plan.problem.empty()) return refuse(plan.problem, console);
     std::shared_ptr<FontService> fonts;
@@ -90,6 +90,13 @@ ExitStatus render(const RenderOptions& options, const Painter& paint, Console& c
         return kFailed;
     }
     return runPlan(plan, threadsFor(plan, options), paint, console);
+}
+
+}  // namespace
+
+ExitStatus render(const RenderOptions& options, const Painter& paint, Console& console) {
+    const auto draw = [&](const RenderOptions& some) { return renderOnce(some, paint, console); };
+    return options.isWatching ? watch(options, draw, console) : draw(options);
 }
 
 }  // namespace VEXA::Cli

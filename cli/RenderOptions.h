@@ -21,6 +21,7 @@ struct RenderOptions {
     std::optional<std::string> background = std::nullopt;
     std::vector<std::string> fontDirectories = {};
     bool isStrict = false;
+    bool isWatching = false;
 };
 
 }  // namespace VEXA::Cli
