@@ -62,6 +62,14 @@ TEST(LabelPainting, TextsAreReplacedOrFormatted) {
         << "60 px each, every 50 px: every other one has no room";
     EXPECT_EQ(shownBy(categories("unit='days'", "adjust-values='false'", dated)),
               "2024-03-01 2024-03-02 2024-03-03 2024-03-04 2024-03-05 ");
+    const auto lying = [&](const std::string& replacement) {
+        return shownBy(fixedPlot("", lineChart("A=93") +
+                                         "<category-axis/><value-axis orientation='horizontal'>"
+                                         "<display-values adjust-values='false'>" +
+                                         replacement + "</display-values></value-axis>"));
+    };
+    EXPECT_EQ(lying(""), "0 10 20 30 40 50 60 70 80 90 100 ") << "18 px each on 200 px";
+    EXPECT_EQ(lying("<value value='50' display='fifty mm/h'/>"), "0 fifty mm/h 100 ") << "60 px each";
     const CapturedLog log;
     const std::string twice = values("unit='5'", "format='0.0 dec:,'");
     draw(twice);

@@ -46,6 +46,38 @@ TEST(PlotArea, ASceneHasWallsAndAFloor) {
     EXPECT_LT(draw(deep).find("\"path\""), draw(deep).find("#cccccc")) << "drawn after the other two";
 }
 
+TEST(PlotArea, TicksTakeTheRoomOfTheirStyle) {
+    const auto plotRect = [](const std::string& axis) {
+        return drawingCalls(plotWith("width='200' height='100'", lineChart("A=93") +
+                                                                     "<category-axis/><value-axis unit='50' "
+                                                                     "intersection='at-minimum'>" +
+                                                                     axis + "</value-axis>"),
+                            "rectangle")
+            .at(1)
+            .box;
+    };
+    const auto ticks = [](const std::string& style) {
+        return "<tick-marks stroke-width='2' tick-mark-length='6' tick-mark-style='" + style + "'/>";
+    };
+    EXPECT_EQ(plotRect(ticks("none")), "0,0 200 x 100");
+    EXPECT_EQ(plotRect(ticks("inside")), "2,0 198 x 100") << "as wide as they are drawn";
+    EXPECT_EQ(plotRect(ticks("cross")), "5,0 195 x 100");
+    EXPECT_EQ(plotRect(ticks("outside")), "8,0 192 x 100");
+    EXPECT_EQ(plotRect("<display-values draw-values='false' offset='9'/>"), "0,0 200 x 100") << "nor labels left out";
+}
+
+TEST(PlotArea, BarsAreAsHighWithoutGridLines) {
+    for (const char* const grid : {"", "<grid-lines/>"}) {
+        const auto bars =
+            drawingCalls(fixedPlot("", "<bar-chart grouping='stacked'><serie fill='#010101'>" + points("A=30") +
+                                           "</serie></bar-chart>" + lineChart("A=40 B=10") +
+                                           "<category-axis/><value-axis unit='50'>" + grid + "</value-axis>"),
+                         "rectangle");
+        EXPECT_NE(bars.back().box.find(" x 30"), std::string::npos)
+            << "30 of 100, since a stack is 70: " << bars.back().box;
+    }
+}
+
 TEST(PlotArea, LayoutMeasuresFirstAndComputesTheValuesAgain) {
     const WithFonts fonts;
     // In the full 90 px of height 9 labels fit: the step for 37 -> 40 is 5. The labels "0" … "40" are then up to 12 px

@@ -102,6 +102,9 @@ TEST(PlotData, StackedBarsWidenTheValues) {
         {barChart("stacked", {"A=30"}) + lineChart("A=40 D=80"), "A D | 0 50 100 ",
          "the total is of all charts, the line's own point of none"},
         {barChart("stacked", {"A=20 A=90", "A=20"}), "A | 0 50 ", "a repeated category is not stacked"},
+        {"<line-chart grouping='stacked'><serie>" + points("A=30") + "</serie><serie>" + points("A=40") +
+             "</serie></line-chart>",
+         "A | 0 50 ", "nor are lines"},
     };
     const CapturedLog log;
     for (const auto& c : cases) EXPECT_EQ(valuesOf(plot("", "unit='50'", c.charts)), c.values) << c.why;

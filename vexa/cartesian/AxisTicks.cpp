@@ -1,8 +1,10 @@
 #include "vexa/cartesian/AxisTicks.h"
 
+#include <charconv>
 #include <cmath>
 
 #include "vexa/support/core/Limits.h"
+#include "vexa/support/core/Math.h"
 #include "vexa/util/Util.h"
 
 namespace VEXA {
@@ -22,12 +24,33 @@ bool hasRoom(AxisTicks& ticks, double wanted, const Value& first, const Value& l
     return !ticks.isThinned;
 }
 
+/// The decimal that people write for a float: 0.1, not 0.100000001.
+double decimalOf(float value) noexcept {
+    char text[32];
+    const char* const end = std::to_chars(text, std::end(text), value).ptr;
+    double decimal = 0;
+    std::from_chars(text, end, decimal);
+    return decimal;
+}
+
+/// The number that a sum of rounded steps misses by a hair. Near zero the hair would show in a label.
+float straightened(float sum, double meant, float step) noexcept {
+    const float near = kNear * step;
+    const float exact = Math::toFloat(meant);
+    const float value = std::fabs(sum - exact) < near ? exact : sum;
+    return std::fabs(value) < near ? 0 : value;
+}
+
 /// The values from `first` on, a step apart, that lie below `end`.
 void emitBelow(AxisTicks& ticks, float first, float end, float step) {
     const float near = kNear * step;
+    const double start = decimalOf(first);
+    const double by = decimalOf(step);
+    double count = 1;
     emit(ticks, first);
-    for (float value = first, next = first + step; next > value && next < end - near; next = value + step) {
-        value = std::fabs(next) < near ? 0 : next;  // beyond 2^24 steps a sum stays where it is: next > value
+    for (float value = first, next = first + step; next > value && next < end - near; next = value + step, ++count) {
+        value =
+            straightened(next, start + count * by, step);  // beyond 2^24 steps a sum stays where it is: next > value
         emit(ticks, value);
     }
 }
@@ -35,9 +58,22 @@ void emitBelow(AxisTicks& ticks, float first, float end, float step) {
 /// The smallest of `max`, `max` - step, … that is not below `min`.
 float firstBefore(float max, float min, float step) {
     const float near = kNear * step;
+    const double start = decimalOf(max);
+    const double by = decimalOf(step);
+    double count = 1;
     float value = max;
-    for (float next = max - step; next < value && next >= min - near; next = value - step) value = next;
-    return std::fmax(std::fabs(value) < near ? 0 : value, min);
+    for (float next = max - step; next < value && next >= min - near; next = value - step, ++count)
+        value = straightened(next, start - count * by, step);
+    return std::fmax(value, min);
+}
+
+/// Moves both ends onto multiples of the step, or the larger one a number of steps away from the smaller one.
+void snap(float& min, float& max, float step) {
+    Util::adjustValueRange(min, max, step);
+    const double by = decimalOf(step);
+    if (min > 0) return;
+    min = straightened(min, std::round(min / by) * by, step);
+    max = straightened(max, std::round(max / by) * by, step);
 }
 
 DateTimeEx monthOf(std::int64_t month) noexcept {
@@ -63,7 +99,7 @@ DateTimeEx unitStart(std::int64_t number, DateUnit unit) noexcept {
 
 AxisTicks numericTicks(NumericSteps& steps) {
     auto& [min, max, step, hasMin, hasMax] = steps;
-    if (step < max - min && !hasMin && !hasMax) Util::adjustValueRange(min, max, step);
+    if (step < max - min && !hasMin && !hasMax) snap(min, max, step);
     AxisTicks ticks;
     const double count = step > 0 ? (static_cast<double>(max) - min) / step + 1 : 1;
     if (!hasRoom(ticks, count, Value(static_cast<double>(min)), Value(static_cast<double>(max)))) return ticks;

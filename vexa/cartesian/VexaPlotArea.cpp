@@ -131,6 +131,7 @@ void VexaPlotArea::render(VexaRenderContext& context) {
     categoryAxis_->dropTexts();
     if (*labelsPosition_ == LabelsPosition::Fit && !isLaidOut_) layoutPlotRect(context);
     if (!hasRoom(context)) return;
+    getData(false);  // with the groupings of the document: a bar chart of one series changes its own
     drawBackground(context);
     context.translate(*x_, *y_);
     drawGrid(context);

@@ -52,7 +52,7 @@ float VexaTickMarks::getExtent() {
 }
 
 void VexaTickMarks::render(VexaRenderContext& context) {
-    if (*tickMarkStyle_ == TickMarkStyle::None) return;
+    if (*tickMarkStyle_ < TickMarkStyle::Inside || *tickMarkStyle_ > TickMarkStyle::Outside) return;
     VexaAxisObject& axis = VexaAxisObject::of(*this);
     const RenderContextScope scope(context.getRenderContext());
     updateRenderContext(context, ColorAspect::Normal, 0.5F);
