@@ -11,7 +11,11 @@
 #include <string>
 #include <vector>
 
+#include "vexa/check/DocumentCheck.h"
+
 namespace {
+
+using namespace VEXA;
 
 namespace fs = std::filesystem;
 
@@ -84,6 +88,71 @@ TEST(Docs, PagesShowTheFilesTheyName) {
         if (!entry.is_regular_file()) continue;
         const std::string name = fs::relative(entry.path(), kSource).string();
         EXPECT_TRUE(shown.contains(name)) << name << " is shown by no page";
+    }
+}
+
+TEST(Docs, PagesShowWhatDiffersAndWhatCommandsPrint) {
+    std::size_t count = 0;
+    const auto expectBlock = [&](const std::string& page, std::size_t at, const std::string& text) {
+        EXPECT_EQ(blockAfter(page, at), text) << "scripts/update-docs renews the pages";
+        ++count;
+    };
+    for (const fs::path& path : pages()) {
+        const std::string page = contentOf(path);
+        for (const auto& [names, end] : textsBetween(page, "<!-- changes: ", " -->")) {
+            expectBlock(page, end,
+                        outputOf("cd " VEXA_SOURCE_DIR " && diff -U1 " + names + " | sed -e 1,3d -e 's/^@@.*/@@/'"));
+        }
+        if (*VEXA_PROGRAM_DIRECTORY == '\0') continue;  // a build without the program
+        for (const auto& [command, end] : textsBetween(page, "<!-- run: ", " -->")) {
+            const std::string script = "cd " VEXA_SOURCE_DIR "/docs/guide && PATH=" VEXA_PROGRAM_DIRECTORY
+                                       ":$PATH && (" +
+                                       command + ") 2>&1 || true";
+            expectBlock(page, end, "$ " + command + "\n" + outputOf(script));
+        }
+    }
+    EXPECT_GT(count, 1U);
+}
+
+TEST(Docs, PagesShowThePicturesOfTheirCharts) {
+    const fs::path picture = fs::path(VEXA_TEST_OUTPUT) / "shown.svg";
+    std::set<fs::path> shown;
+    for (const fs::path& path : pages()) {
+        const std::string page = contentOf(path);
+        for (const auto& [name, end] : textsBetween(page, "<!-- picture: ", " -->")) {
+            const std::size_t start = page.find("](", end) + 2;
+            const fs::path file = path.parent_path() / page.substr(start, page.find(')', start) - start);
+            const fs::path chart = kSource / name;
+            shown.insert(file.filename());
+            EXPECT_EQ(outputOf(VEXA_DRAW_CHART " " + chart.string() + " " + picture.string() + " 2>&1"), "");
+            EXPECT_TRUE(contentOf(picture) == contentOf(file)) << "look at " << file << " after scripts/update-docs";
+            const CheckReport report =
+                DocumentCheck::run(make<IO::FileStream>(chart.string(), IO::FileStream::Mode::Read));
+            EXPECT_EQ(report.count(Severity::Error) + report.count(Severity::Warning), 0U) << name;
+        }
+    }
+    for (const auto& entry : fs::directory_iterator(kSource / "docs/guide")) {
+        const fs::path name = entry.path().filename();
+        EXPECT_TRUE(name.extension() != ".svg" || shown.contains(name)) << name << " is shown by no page";
+    }
+}
+
+TEST(Docs, TheProgramsOfTheGuideWriteCharts) {
+    const std::string guide = VEXA_SOURCE_DIR "/docs/guide/";
+    const std::string filled =
+        "python3 " + guide + "fill_chart.py " + guide + "table-template.xml <" + guide + "table.csv";
+    EXPECT_EQ(outputOf(filled), contentOf(guide + "table.xml")) << filled << " >docs/guide/table.xml renews it";
+
+    const fs::path directory = fs::path(VEXA_TEST_OUTPUT) / "guide";
+    fs::create_directories(directory);
+    const std::string chart = (directory / "lines.xml").string();
+    outputOf("printf 'Fish & chips\\t412\\n\"Soup\" <hot>\\t298\\n' | sh " + guide + "lines_to_chart.sh >" + chart);
+    const std::string told = outputOf(VEXA_DRAW_MANY " " + directory.string() + " none.xml " + chart + " 2>&1");
+    EXPECT_EQ(told.rfind("none.xml:0: ", 0), 0U) << told;
+    EXPECT_NE(told.find("exit status 1"), std::string::npos) << told;
+    const std::string svg = contentOf(directory / "lines.svg");
+    for (const char* word : {">Fish &amp; chips<", "Soup", "&lt;hot", ">298<"}) {
+        EXPECT_NE(svg.find(word), std::string::npos) << word << " in " << svg;
     }
 }
 
