@@ -36,8 +36,9 @@ void emitBelow(AxisTicks& ticks, float first, float end, float step) {
 float firstBefore(float max, float min, float step) {
     const float near = kNear * step;
     float value = max;
-    for (float next = max - step; next < value && next >= min - near; next = value - step) value = next;
-    return std::fmax(std::fabs(value) < near ? 0 : value, min);
+    for (float next = max - step; next < value && next >= min - near; next = value - step)
+        value = std::fabs(next) < near ? 0 : next;
+    return std::fmax(value, min);
 }
 
 DateTimeEx monthOf(std::int64_t month) noexcept {
