@@ -3,12 +3,16 @@
 BUILD := build/release
 VEXA := $(BUILD)/bin/vexa
 
-.PHONY: help packages demo test bench format clean
+FUZZ_SECONDS ?= 60
+
+.PHONY: help packages demo test bench fuzz fuzz-coverage format clean
 
 help:
 	@echo "make demo    build, and draw every example into out/"
 	@echo "make test    build, and run all tests"
 	@echo "make bench   build, and run the benchmarks"
+	@echo "make fuzz    build the fuzz targets, and run each for FUZZ_SECONDS ($(FUZZ_SECONDS))"
+	@echo "make fuzz-coverage  tell which lines their inputs reach"
 	@echo "make format  format all C++ sources"
 	@echo "make clean   remove build/ and out/"
 
@@ -28,6 +32,14 @@ bench: $(BUILD)/build.ninja
 	cmake --build --preset release
 	$(BUILD)/bench/vexa_bench
 	bench/process.sh $(BUILD)
+
+fuzz:
+	scripts/install-packages build test fuzz
+	scripts/fuzz --seconds $(FUZZ_SECONDS)
+
+fuzz-coverage:
+	scripts/install-packages build test fuzz
+	scripts/fuzz --coverage
 
 format:
 	scripts/install-packages lint

@@ -1,0 +1,36 @@
+#include "tests/regressions/RegressionDocuments.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace VEXA::Testing {
+
+namespace {
+namespace fs = std::filesystem;
+
+void addFolder(const fs::path& folder, std::vector<RegressionDocument>& out) {
+    const bool isTree = folder.filename() == "fuzz_document_tree";
+    for (const fs::directory_entry& file : fs::directory_iterator(fs::path(VEXA_SOURCE_DIR) / folder)) {
+        std::ifstream in(file.path(), std::ios::binary);
+        std::string text{std::istreambuf_iterator<char>(in), {}};
+        if (isTree) text = Fuzz::documentOf(std::vector<std::uint8_t>(text.begin(), text.end()));
+        out.push_back({file.path().string(), std::move(text)});
+    }
+}
+
+}  // namespace
+
+std::vector<RegressionDocument> regressionDocuments() {
+    std::vector<RegressionDocument> documents;
+    for (const char* folder :
+         {"tests/regressions/documents", "examples", "fuzz/corpus/fuzz_document_display_list",
+          "fuzz/corpus/fuzz_document_svg", "fuzz/corpus/fuzz_document_png", "fuzz/corpus/fuzz_document_tree"}) {
+        const std::size_t before = documents.size();
+        addFolder(folder, documents);
+        EXPECT_GT(documents.size(), before) << "no documents in " << folder;
+    }
+    return documents;
+}
+
+}  // namespace VEXA::Testing
