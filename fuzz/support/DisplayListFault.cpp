@@ -36,7 +36,7 @@ std::size_t endOfText(std::string_view json, std::size_t begin) {
 
 std::string displayListFault(std::string_view displayList) {
     if (!displayList.empty() && displayList.back() != '\n') return "the last line is cut off";
-    std::string_view before;  // the text before this one
+    std::string_view before;  // the text before this one: the name of this value, when a colon stands between them
     for (std::size_t at = 0; at < displayList.size();) {
         const std::size_t quote = std::min(displayList.find('"', at), displayList.size());
         const std::string_view plain = displayList.substr(at, quote - at);
@@ -45,7 +45,8 @@ std::string displayListFault(std::string_view displayList) {
         const std::size_t end = endOfText(displayList, quote + 1);
         if (end >= displayList.size() || displayList[end] != '"') return "a text without end";
         const std::string_view text = displayList.substr(quote + 1, end - quote - 1);
-        if (before == "d" && !isMadeOf(text, kPath)) return "no number in a path: " + std::string(text.substr(0, 500));
+        if (before == "d" && plain == ":" && !isMadeOf(text, kPath))
+            return "no number in a path: " + std::string(text.substr(0, 500));
         before = text;
         at = end + 1;
     }

@@ -20,24 +20,25 @@ struct Found {
 /// Elements that run code or bring other files.
 constexpr std::array<std::string_view, 8> kForbidden = {"script", "foreignObject", "image",   "a",
                                                         "use",    "style",         "animate", "set"};
-/// Attributes that carry words, or names of fonts, of the document.
-constexpr std::array<std::string_view, 3> kWords = {"font-family", "aria-label", "xml:lang"};
+/// Attributes that carry words, or names of fonts, of the document, and ids, which are made of any letters.
+constexpr std::array<std::string_view, 4> kWords = {"font-family", "xml:lang", "id", "href"};
 
 void checkAttribute(Found& found, std::string_view name, std::string_view value) {
     const auto refuse = [&](std::string_view why) {
         found.fault = std::string(why) + " " + std::string(name) + "=\"" + std::string(value.substr(0, 200)) + '"';
     };
+    const bool isWord = std::ranges::find(kWords, name) != kWords.end();
     if (name == "id" && !found.ids.emplace(value).second) refuse("an id twice:");
     if (name.starts_with("on")) refuse("a script:");
     if (name.ends_with("href")) {
         if (!value.starts_with('#')) return refuse("an external reference:");
         found.references.emplace(value.substr(1));
     }
-    if (std::ranges::find(kWords, name) != kWords.end()) return;
-    if (value.find("nan") != value.npos || value.find("inf") != value.npos) refuse("no number:");
-    if (const std::size_t url = value.find("url("); url != value.npos) {
+    if (const std::size_t url = value.find("url("); url != value.npos && !isWord) {
         if (!value.substr(url).starts_with("url(#") || !value.ends_with(')')) return refuse("an external reference:");
         found.references.emplace(value.substr(url + 5, value.size() - url - 6));
+    } else if (!isWord && (value.find("nan") != value.npos || value.find("inf") != value.npos)) {
+        refuse("no number:");
     }
 }
 

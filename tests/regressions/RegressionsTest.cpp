@@ -22,6 +22,7 @@ TEST(Regressions, TheFaultsOfPicturesAreFound) {
         const char *picture, *fault, *why;
     } lists[] = {
         {"{\"op\":\"text\",\"text\":\"a\\\"nan\",\"x\":-1e38}\n", "", "words of the document"},
+        {"{\"text\":\"d\",\"fill\":\"inf\"}\n", "", "a word that is no name"},
         {"{\"x\":1,\"y\":nan}\n", "behind \"y\"", "no number"},
         {"{\"d\":\"M0 infL1 2\"}\n", "M0 infL1 2", "in a path"},
         {"{\"x\":1", "cut off", "half a line"},
@@ -35,7 +36,7 @@ TEST(Regressions, TheFaultsOfPicturesAreFound) {
     const struct {
         const char *content, *fault, *why;
     } pictures[] = {
-        {"<g id='a' fill='url(#a)' font-family='nan'/>", "", "a reference to itself"},
+        {"<g id='inf' fill='url(#inf)' font-family='nan'/>", "", "a reference to itself"},
         {"<g fill='url(#b)'/>", "reference to nothing", "an id that is not there"},
         {"<g fill='url(http://b)'/>", "external", "a paint from elsewhere"},
         {"<g id='a'/><g id='a'/>", "twice", "an id that is not the only one"},
