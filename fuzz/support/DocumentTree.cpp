@@ -19,12 +19,9 @@ namespace VEXA::Fuzz {
 
 namespace {
 
-constexpr std::size_t kHeadBytes = 2;        // what a step is, and which element or attribute
-constexpr std::size_t kMostDepth = 64;       // far beyond what elements allow, and below the parser's limit
-constexpr std::uint8_t kAnyElement = 0xF0;   // from here on an element that may not stand there
-constexpr std::uint8_t kFirstNumber = 0x60;  // selectors of values: samples below, texts above
-constexpr std::uint8_t kFirstText = 0xC0;
-constexpr std::size_t kNumberBytes = 3;
+constexpr std::size_t kHeadBytes = 2;       // what a step is, and which element or attribute
+constexpr std::size_t kMostDepth = 64;      // far beyond what elements allow, and below the parser's limit
+constexpr std::uint8_t kAnyElement = 0xF0;  // from here on an element that may not stand there
 constexpr std::size_t kMostTextBytes = 255;
 
 std::size_t valueBytes(Bytes rest) {

@@ -27,6 +27,12 @@ struct Step {
     std::size_t end;
 };
 
+/// The first byte of a value: below these a sample of the type, a number in so many bytes, or, above, a text whose
+/// length is the next byte.
+inline constexpr std::uint8_t kFirstNumber = 0x60;
+inline constexpr std::uint8_t kFirstText = 0xC0;
+inline constexpr std::size_t kNumberBytes = 3;
+
 std::vector<Step> stepsOf(Bytes bytes);
 /// The number of the step behind the one that closes what step `open` opens; that of the last one and one more when
 /// it stays open.

@@ -83,9 +83,9 @@ private:
 
     Tree randomAttribute() {
         Tree step{2, byte(), byte()};
-        if (step[2] < 0x60) return step;
-        const std::size_t size = step[2] < 0xC0 ? 3 : below(12);
-        if (step[2] >= 0xC0) step.push_back(static_cast<std::uint8_t>(size));
+        if (step[2] < kFirstNumber) return step;
+        const std::size_t size = step[2] < kFirstText ? kNumberBytes : below(12);
+        if (step[2] >= kFirstText) step.push_back(static_cast<std::uint8_t>(size));
         for (std::size_t i = 0; i < size; ++i) step.push_back(byte());
         return step;
     }
@@ -113,10 +113,26 @@ private:
         if (!steps_.empty()) erase(step, step + 1);
     }
     void copyElement() {
-        const Tree copied = piece();
-        // Beside the original as a rule: there it may stand.
-        const std::size_t place = below(4) == 0 ? below(steps_.size() + 1) : element().second;
-        for (std::size_t i = 1 + below(4); i > 0; --i) insert(place, copied);
+        const auto [first, last] = element();
+        const Tree copied(bytes_.begin() + at(first), bytes_.begin() + at(last));
+        // Beside the original as a rule: there it may stand. Now and then so many that they get in each other's way.
+        const std::size_t place = below(4) == 0 ? below(steps_.size() + 1) : last;
+        Tree copies;
+        for (std::size_t i = 1 + below(below(8) == 0 ? 100 : 4); i > 0; --i) {
+            const Tree copy = varied(copied);
+            copies.insert(copies.end(), copy.begin(), copy.end());
+        }
+        insert(place, copies);
+    }
+    /// Some of its numbers and samples are others.
+    Tree varied(Tree piece) {
+        for (const Step& step : stepsOf(piece)) {
+            const std::size_t value = step.begin + 2;
+            if (step.kind != StepKind::Attribute || value >= step.end || below(2) == 0) continue;
+            if (piece[value] < kFirstNumber) piece[value] = static_cast<std::uint8_t>(below(kFirstNumber));
+            if (piece[value] < kFirstText && value + 1 < step.end) piece[value + 1] = byte();
+        }
+        return piece;
     }
     void changeValue() {
         const std::size_t step = stepOf(StepKind::Attribute);

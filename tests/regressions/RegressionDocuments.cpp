@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 void addFolder(const fs::path& folder, std::vector<RegressionDocument>& out) {
     const bool isTree = folder.filename() == "fuzz_document_tree";
-    for (const fs::directory_entry& file : fs::directory_iterator(fs::path(VEXA_SOURCE_DIR) / folder)) {
+    for (const fs::directory_entry& file : fs::directory_iterator(folder)) {
         std::ifstream in(file.path(), std::ios::binary);
         std::string text{std::istreambuf_iterator<char>(in), {}};
         if (isTree) text = Fuzz::documentOf(std::vector<std::uint8_t>(text.begin(), text.end()));
@@ -22,10 +22,12 @@ void addFolder(const fs::path& folder, std::vector<RegressionDocument>& out) {
 }  // namespace
 
 std::vector<RegressionDocument> regressionDocuments() {
+    const fs::path top = VEXA_SOURCE_DIR;
+    std::vector<fs::path> folders = {top / "examples", top / "tests/regressions/documents"};
+    for (const fs::directory_entry& folder : fs::directory_iterator(top / "fuzz/corpus"))
+        if (folder.path().filename().string().starts_with("fuzz_document_")) folders.push_back(folder.path());
     std::vector<RegressionDocument> documents;
-    for (const char* folder :
-         {"tests/regressions/documents", "examples", "fuzz/corpus/fuzz_document_display_list",
-          "fuzz/corpus/fuzz_document_svg", "fuzz/corpus/fuzz_document_png", "fuzz/corpus/fuzz_document_tree"}) {
+    for (const fs::path& folder : folders) {
         const std::size_t before = documents.size();
         addFolder(folder, documents);
         EXPECT_GT(documents.size(), before) << "no documents in " << folder;

@@ -1,5 +1,5 @@
-// Documents that once crashed, hung or ate memory, and what the fuzz targets start from: on every surface each of them
-// is painted, or refused with an error.
+// Documents that once crashed or hung, or that come near a limit, and what the fuzz targets start from: on every
+// surface each of them is painted, or refused with an error.
 
 #include "tests/regressions/RegressionDocuments.h"
 
