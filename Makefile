@@ -3,7 +3,9 @@
 BUILD := build/release
 VEXA := $(BUILD)/bin/vexa
 
-.PHONY: help packages demo test bench linearity soak tsan format clean
+FUZZ_SECONDS ?= 60
+
+.PHONY: help packages demo test bench linearity soak tsan fuzz fuzz-coverage format clean
 
 help:
 	@echo "make demo       build, and draw every example into out/"
@@ -12,6 +14,8 @@ help:
 	@echo "make linearity  count instructions: work must grow no faster than documents"
 	@echo "make soak       render 100,000 documents in one process: no memory and no descriptor may get lost"
 	@echo "make tsan       render on 8 threads under the thread sanitizer"
+	@echo "make fuzz       build the fuzz targets, and run each for FUZZ_SECONDS ($(FUZZ_SECONDS))"
+	@echo "make fuzz-coverage  tell which lines their inputs reach"
 	@echo "make format     format all C++ sources"
 	@echo "make clean      remove build/ and out/"
 
@@ -49,6 +53,14 @@ tsan: packages
 	cd build/threads && VEXA_LOAD_DOCUMENTS=1000 TSAN_OPTIONS="ignore_noninstrumented_modules=1 halt_on_error=1" \
 	    setarch -R tests/test_load
 	cd build/threads && setarch -R tests/test_core
+
+fuzz:
+	scripts/install-packages build test fuzz
+	scripts/fuzz --seconds $(FUZZ_SECONDS)
+
+fuzz-coverage:
+	scripts/install-packages build test fuzz
+	scripts/fuzz --coverage
 
 format:
 	scripts/install-packages lint

@@ -71,6 +71,9 @@ TEST(MemoryStream, ReadsWhatWasWritten) {
     EXPECT_EQ(readAll(stream), "k") << "goes on after the end";
     EXPECT_EQ(stream.takeBytes(), "abcdefghijk") << "keeps all";
     EXPECT_EQ(readAll(stream), "");
+    stream.give("given ");
+    stream.give("again");
+    EXPECT_EQ(readAll(stream), "given again") << "behind what is there";
 }
 
 TEST(MemoryStream, HandsOutTheRest) {

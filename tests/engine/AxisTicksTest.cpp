@@ -28,6 +28,7 @@ TEST(AxisTicks, NumbersAreASteppedRange) {
         {{0.2F, 1, 0.1F, false, true}, "0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9 1", 0.2F, 1, "and arriving at the other end"},
         {{0, 40, 50, true, false}, "0", 0, 40, "a step beyond the end"},
         {{0, 40, 50, false, true}, "40", 0, 40, "or beyond the start"},
+        {{-30, -20, 1e6F, false, true}, "-20", -30, -20, "also one beside which both ends are near zero"},
         {{0, 40, 50, false, false}, "0 40", 0, 40, "no step fits: both ends"},
         {{0, 40, 40, false, false}, "0 40", 0, 40, "one step"},
         {{0, 0, 0, false, false}, "0", 0, 0, "all data zero"},

@@ -144,11 +144,14 @@ std::string describe(const SmartPtr<Stroke>& stroke) {
 
 std::string geometryOf(const SmartPtr<Brush>& brush) {
     const auto& gradient = static_cast<const GradientBrush&>(*brush);
-    const auto& linear = static_cast<const LinearGradientBrush&>(gradient);
-    const auto& radial = static_cast<const RadialGradientBrush&>(gradient);
-    std::string text = gradient.isRadial() ? shown(radial.centre()) + ' ' + shown(radial.radii().width) + ',' +
-                                                 shown(radial.radii().height)
-                                           : shown(linear.start()) + ' ' + shown(linear.end());
+    std::string text;
+    if (gradient.isRadial()) {
+        const auto& radial = static_cast<const RadialGradientBrush&>(gradient);
+        text = shown(radial.centre()) + ' ' + shown(radial.radii().width) + ',' + shown(radial.radii().height);
+    } else {
+        const auto& linear = static_cast<const LinearGradientBrush&>(gradient);
+        text = shown(linear.start()) + ' ' + shown(linear.end());
+    }
     const GradientSpreadMethod spread = gradient.getSpreadMethod();
     append(text, gradient.getUnits() == GradientUnits::UserSpaceOnUse ? "user" : "box");
     append(text, spread == GradientSpreadMethod::Pad       ? "pad"

@@ -49,8 +49,7 @@ void emitBelow(AxisTicks& ticks, float first, float end, float step) {
     double count = 1;
     emit(ticks, first);
     for (float value = first, next = first + step; next > value && next < end - near; next = value + step, ++count) {
-        value =
-            straightened(next, start + count * by, step);  // beyond 2^24 steps a sum stays where it is: next > value
+        value = straightened(next, start + count * by, step);  // beyond 2^24 steps a sum stays: next > value
         emit(ticks, value);
     }
 }

@@ -27,8 +27,7 @@ void SvgSurface::endDocument() {
     writer.finish();
     std::string head = svgRoot(documentInfo(), body_->page);
     if (!writer.definitions().empty()) head.append("<defs>\n").append(writer.definitions()).append("</defs>\n");
-    stream_->write(head);
-    stream_->write(writer.content().append("</svg>\n"));
+    stream_->give(std::move(writer.content().insert(0, head).append("</svg>\n")));
     stream_->flush();
     beginDocument();
 }

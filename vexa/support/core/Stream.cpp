@@ -31,6 +31,14 @@ void MemoryStream::write(const void* data, std::size_t size) {
     if (size != 0) bytes_.append(static_cast<const char*>(data), size);
 }
 
+void MemoryStream::give(std::string bytes) {
+    if (bytes_.empty()) {
+        bytes_ = std::move(bytes);
+    } else {
+        bytes_ += bytes;
+    }
+}
+
 std::optional<std::string_view> MemoryStream::takeRest() { return restOf(bytes_, position_); }
 
 std::string MemoryStream::takeBytes() noexcept {

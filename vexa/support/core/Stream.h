@@ -16,6 +16,8 @@ public:
     /// Reads up to `size` bytes; 0 only at the end.
     virtual std::size_t read(void* buffer, std::size_t size) = 0;
     virtual void write(const void* data, std::size_t size) = 0;
+    /// Writes bytes that the caller has no more use for: a stream in memory keeps a large picture without a copy.
+    virtual void give(std::string bytes) { write(bytes.data(), bytes.size()); }
     virtual void flush() {}
 
     /// What is left to read, when all of it lies in memory: lets a reader do without copies. The bytes stay valid as
@@ -34,6 +36,7 @@ public:
     std::size_t read(void* buffer, std::size_t size) override;
     void write(const void* data, std::size_t size) override;
     using Stream::write;
+    void give(std::string bytes) override;
     std::optional<std::string_view> takeRest() override;
 
     const std::string& bytes() const noexcept { return bytes_; }
