@@ -52,9 +52,12 @@ void XMLCALL onStart(void* user, const XML_Char* name, const XML_Char** attribut
     for (; *attributes != nullptr; attributes += 2) markup.attributes.push_back({attributes[0], attributes[1]});
 }
 
+/// What follows is no text of an element that has one alone.
+void XMLCALL onEnd(void* user, const XML_Char*) { static_cast<Markup*>(user)->texts.emplace_back(); }
+
 void XMLCALL onText(void* user, const XML_Char* text, int length) {
     Markup& markup = *static_cast<Markup*>(user);
-    if (!markup.texts.empty()) markup.texts.back().append(text, static_cast<std::size_t>(length));
+    markup.texts.back().append(text, static_cast<std::size_t>(length));
 }
 
 }  // namespace
@@ -67,7 +70,7 @@ Markup parseMarkup(const std::string& svg) {
     const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
                                                                               &XML_ParserFree);
     XML_SetUserData(parser.get(), &markup);
-    XML_SetElementHandler(parser.get(), &onStart, nullptr);
+    XML_SetElementHandler(parser.get(), &onStart, &onEnd);
     XML_SetCharacterDataHandler(parser.get(), &onText);
     if (XML_Parse(parser.get(), svg.data(), static_cast<int>(svg.size()), XML_TRUE) != XML_STATUS_OK)
         markup.error = XML_ErrorString(XML_GetErrorCode(parser.get()));
