@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <deque>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -25,6 +26,15 @@ struct Records final : LogSink {
     std::vector<LogRecord>& records;
 };
 
+/// Keeps each block as it comes, so that the output is in memory once, however long it grows.
+struct Blocks final : IO::Stream {
+    std::size_t read(void*, std::size_t) override { return 0; }
+    void write(const void* data, std::size_t size) override {
+        blocks.emplace_back(static_cast<const char*>(data), size);
+    }
+    std::deque<std::string> blocks;
+};
+
 template <class Surface>
 Rendered render(const std::string& document) {
     Rendered rendered;
@@ -32,7 +42,7 @@ Rendered render(const std::string& document) {
     const LogScope scope(records);
     const std::clock_t start = std::clock();
     const PeakMemory peak;
-    const auto out = make<IO::MemoryStream>();
+    const auto out = make<Blocks>();
     try {
         VexaEngine::renderPage(make<IO::ViewStream>(document), make<Surface>(out));
     } catch (const Exception& error) {
@@ -41,7 +51,7 @@ Rendered render(const std::string& document) {
     }
     rendered.peak = peak.bytes();
     rendered.seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-    rendered.bytes = out->bytes();
+    for (const std::string& block : out->blocks) rendered.bytes += block;
     return rendered;
 }
 
@@ -90,6 +100,10 @@ std::string displayListProblem(const std::string& list) {
 std::size_t memoryBound(const std::string& document, const Rendered& rendered) {
     const auto elements = static_cast<std::size_t>(std::ranges::count(document, '<'));
     return (std::size_t{64} << 20U) + 600 * elements + 40 * document.size() + rendered.bytes.size();
+}
+
+double timeBound(const std::string& document) {
+    return 2.0 * std::max(1.0, static_cast<double>(document.size()) / 1e6);
 }
 
 std::string hostDocument(const std::string& name) {
