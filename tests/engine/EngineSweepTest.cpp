@@ -43,14 +43,6 @@ const std::string kPlot =
 
 class EngineSweepOf : public testing::TestWithParam<std::string> {};
 
-TEST_P(EngineSweepOf, ADocumentCutAnywhereIsRefused) {
-    const CapturedLog log;
-    EXPECT_NO_THROW(load(GetParam()));
-    for (std::size_t length = 0; length < GetParam().size(); ++length) {
-        EXPECT_THROW(load(GetParam().substr(0, length)), Exception) << "cut at " << length;
-    }
-}
-
 TEST_P(EngineSweepOf, NastyValuesDrawSomethingOrAreRefused) {
     const std::string& chart = GetParam();
     const std::string digits(10'000, '9');
@@ -77,16 +69,6 @@ TEST_P(EngineSweepOf, NastyValuesDrawSomethingOrAreRefused) {
 
 INSTANTIATE_TEST_SUITE_P(Charts, EngineSweepOf, testing::Values(kChart, kPlot),
                          [](const auto& chart) { return chart.index == 0 ? "Radar" : "Plot"; });
-
-TEST(EngineSweep, EveryElementMayStandEmptyInEveryOther) {
-    const CapturedLog log;
-    std::vector<std::string> names;
-    for (const XmlObjectTypeInfo* const record : XmlObjectFactory::get()->typeInfos())
-        if (!record->isAbstract()) names.emplace_back(record->getKey().name);
-    for (const std::string& outer : names)
-        for (const std::string& inner : names)
-            EXPECT_NO_THROW(load(rootWith("", "<" + outer + "><" + inner + "/></" + outer + ">"))) << outer << inner;
-}
 
 TEST(EngineSweep, AnyShapeOfTreeIsFreedWithoutHarm) {
     XmlObjPtr<XmlObject> body;

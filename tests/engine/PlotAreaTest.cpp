@@ -274,7 +274,7 @@ TEST(Limits, LabelTexts) {
     const auto surface = make<TextCounter>();
     root->render(surface, 400, 300);
     EXPECT_EQ(log.codes(), "34076");
-    EXPECT_EQ(surface->texts, 3'600'000 / 56) << "906 characters take 56 corners, the values 4 each of four millions";
+    EXPECT_EQ(surface->texts, 3'600'000 / 453) << "906 characters take 453 corners, the values 4 each of four millions";
 }
 
 }  // namespace VEXA::Testing

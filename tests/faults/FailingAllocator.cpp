@@ -1,6 +1,7 @@
 #include "tests/faults/FailingAllocator.h"
 
 #include <expat.h>
+#include <malloc.h>
 
 #include <atomic>
 #include <cstdlib>
@@ -10,6 +11,8 @@ namespace VEXA::Testing {
 namespace {
 
 std::atomic<std::int64_t> live{0};
+std::atomic<std::int64_t> inUse{0};       // bytes
+std::atomic<std::int64_t> peak{0};        // of inUse
 thread_local std::int64_t countdown = 0;  // allocations up to the failing one; 0 or less when none is to fail
 thread_local bool failed = false;
 
@@ -19,23 +22,38 @@ bool fails() noexcept {
     return true;
 }
 
+/// Notes what a block takes, or gives back.
+void count(std::int64_t bytes) noexcept {
+    const std::int64_t now = inUse.fetch_add(bytes, std::memory_order_relaxed) + bytes;
+    if (now > peak.load(std::memory_order_relaxed)) peak.store(now, std::memory_order_relaxed);
+}
+
+std::int64_t sizeOf(void* block) noexcept { return static_cast<std::int64_t>(::malloc_usable_size(block)); }
+
 void* allocate(std::size_t size, std::size_t alignment) noexcept {
     if (fails()) return nullptr;
     void* const block = alignment > alignof(std::max_align_t)
                             ? std::aligned_alloc(alignment, (size + alignment - 1) / alignment * alignment)
                             : std::malloc(size == 0 ? 1 : size);
-    if (block != nullptr) live.fetch_add(1, std::memory_order_relaxed);
+    if (block == nullptr) return nullptr;
+    live.fetch_add(1, std::memory_order_relaxed);
+    count(sizeOf(block));
     return block;
 }
 
 void* reallocate(void* block, std::size_t size) noexcept {
     if (block == nullptr) return allocate(size, 0);
-    return fails() ? nullptr : std::realloc(block, size);
+    if (fails()) return nullptr;
+    const std::int64_t before = sizeOf(block);
+    void* const moved = std::realloc(block, size);
+    if (moved != nullptr) count(sizeOf(moved) - before);
+    return moved;
 }
 
 void release(void* block) noexcept {
     if (block == nullptr) return;
     live.fetch_sub(1, std::memory_order_relaxed);
+    count(-sizeOf(block));
     std::free(block);
 }
 
@@ -48,6 +66,9 @@ void* allocateOrThrow(std::size_t size, std::size_t alignment) {
 }  // namespace
 
 std::int64_t liveBlocks() noexcept { return live.load(); }
+
+PeakMemory::PeakMemory() noexcept : before_(inUse.load()) { peak = before_; }
+std::size_t PeakMemory::bytes() const noexcept { return static_cast<std::size_t>(peak.load() - before_); }
 
 FailAllocation::FailAllocation(std::int64_t number) noexcept {
     failed = false;

@@ -9,6 +9,17 @@ namespace VEXA::Testing {
 /// How many blocks are allocated and not yet freed.
 std::int64_t liveBlocks() noexcept;
 
+/// The most bytes that are in use at once while it lives, above those of its start; of one object at a time, all
+/// threads together.
+class PeakMemory {
+public:
+    PeakMemory() noexcept;
+    std::size_t bytes() const noexcept;
+
+private:
+    std::int64_t before_;
+};
+
 /// While it lives, the allocations of this thread are counted, and the one of that number fails, from 1.
 class FailAllocation {
 public:

@@ -13,7 +13,7 @@ namespace {
 
 constexpr char kSource[] = "VexaDisplayValues";
 constexpr int kPictureIsFull = 34076;
-constexpr std::size_t kCharactersOfCorner = 16;  // 1000 characters of a format on 100,000 labels are too much
+constexpr std::size_t kCharactersOfCorner = 2;  // as many bytes as a point: labels are kept until they are painted
 
 [[noreturn]] void refuseOrientation(const VexaObject& owner, DisplayValOrientation orientation, int line) {
     const auto ordinal = static_cast<std::int32_t>(orientation);
