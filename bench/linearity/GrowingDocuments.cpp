@@ -135,7 +135,8 @@ std::string longWordOfASlice(int size) {
 }
 
 std::string attributes(int size) {
-    return root("<title value=\"A\" " + repeat(size, [](int i) { return "a" + number(10'000 + i) + "=\"1\" "; }) + "/>");
+    return root("<title value=\"A\" " + repeat(size, [](int i) { return "a" + number(10'000 + i) + "=\"1\" "; }) +
+                "/>");
 }
 /// Elements that nobody knows, one in the other, two hundred times: a single tower is too small to weigh.
 std::string nesting(int size) { return root(repeat(200, repeat(size, "<a>") + repeat(size, "</a>"))); }

@@ -4,6 +4,7 @@
 
 #include "vexa/cartesian/VexaPlotArea.h"
 #include "vexa/support/core/Log.h"
+#include "vexa/support/core/QuotedText.h"
 
 namespace VEXA {
 
@@ -93,7 +94,7 @@ void VexaAxisObject::tellBounds(const AxisRange& usable) {
     const String name = getTypeInfo()->getElementName();
     const String kind = getPlotArea().getDataKind(isCategory_) == ValueKind::Date ? "date" : "number";
     const auto tellUnusable = [&](const char* which, const Value& bound) {
-        Log::warning(kOtherBound, {String(which), name, bound.getValue(), kind}, getPlace());
+        Log::warning(kOtherBound, {String(which), name, quoteForMessage(bound.getValue()), kind}, getPlace());
     };
     if (!(given.min == usable.min)) tellUnusable("min", given.min);
     if (!(given.max == usable.max)) tellUnusable("max", given.max);

@@ -11,6 +11,7 @@ constexpr int kNotFound = 34001;
 constexpr int kNearlyFound = 34102;
 
 int rootTypeId = 0;  // the type id of no class until the root has told its own
+VexaObject::NearestReference nearestReference = nullptr;
 
 }  // namespace
 
@@ -45,14 +46,15 @@ XmlObjPtr<VexaObject> VexaObject::findReferencedObject(const String& reference) 
 void VexaObject::tellNotFound(const String& reference) {
     String near;
     XmlObject* const top = Log::takesWarning(kNotFound) ? getVexaRoot() : this;
-    if (top->isKindOf(typeID())) near = static_cast<VexaObject*>(top)->findNearestReference(reference);
+    if (top->isKindOf(rootTypeId)) near = nearestReference(*top, reference);
     VariantArray arguments{quoteForMessage(reference)};
     if (!near.isEmpty()) arguments.emplace_back(quoteForMessage(near));
     Log::warning(near.isEmpty() ? kNotFound : kNearlyFound, arguments, getPlace());
 }
 
-String VexaObject::findNearestReference(const String&) { return {}; }
-
-void VexaObject::setRootTypeId(int typeId) noexcept { rootTypeId = typeId; }
+void VexaObject::setRoot(int typeId, NearestReference nearest) noexcept {
+    rootTypeId = typeId;
+    nearestReference = nearest;
+}
 
 }  // namespace VEXA

@@ -36,14 +36,14 @@ public:
     /// Warns of a reference of this object that is not found, with the nearest one that would be.
     void tellNotFound(const String& reference);
 
-    /// Tells this class, which does not know its descendants, how to recognise the root. The root's record calls it.
-    static void setRootTypeId(int typeId) noexcept;
+    /// What a root would find under a reference near to this one, which it does not find; empty when none is near.
+    using NearestReference = String (*)(const XmlObject& root, const String& reference);
+    /// Tells this class, which does not know its descendants, how to recognise the root and whom to ask for a nearest
+    /// reference. The root's record calls it.
+    static void setRoot(int typeId, NearestReference nearest) noexcept;
 
 protected:
     VexaObject() noexcept = default;
-
-    /// The reference to an object that this one finds, nearest to one that it does not find; empty when none is near.
-    virtual String findNearestReference(const String& reference);
 
     TXmlAttribute<String> id_{DefaultStringAttribute};
 };

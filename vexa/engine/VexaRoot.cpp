@@ -12,7 +12,9 @@
 namespace VEXA {
 
 VexaRoot::VexaRootTypeInfo::VexaRootTypeInfo() : XmlTypeInfo("VexaRoot", "root", chartNamespace(), &initTypeInfo) {
-    VexaObject::setRootTypeId(typeID());
+    VexaObject::setRoot(typeID(), [](const XmlObject& root, const String& reference) {
+        return static_cast<const VexaRoot&>(root).findNearestReference(reference);
+    });
 }
 
 void VexaRoot::VexaRootTypeInfo::initTypeInfo(XmlObjectTypeInfo* info) {
@@ -123,8 +125,7 @@ void VexaRoot::tellRepeated(const VexaObject& first, const VexaObject& second) {
                  second.getPlace());
 }
 
-// With or without the # that a reference needs.
-String VexaRoot::findNearestReference(const String& reference) {
+String VexaRoot::findNearestReference(const String& reference) const {
     Vector<std::string> known;
     for (const auto& defs : defs_) {
         for (const auto& definition : defs->getDefinitions()) {

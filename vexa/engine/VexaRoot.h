@@ -58,10 +58,9 @@ public:
     /// Of no extent when the document gives none.
     const ViewBox& getViewBox() const { return *viewBox_; }
 
-protected:
-    String findNearestReference(const String& reference) override;
-
 private:
+    /// With or without the # that a reference needs.
+    String findNearestReference(const String& reference) const;
     template <class Guard>
     void paint(const SmartPtr<RenderContext>& surface, float width, float height, const Guard& guard);
     template <class Guard>
