@@ -1,9 +1,12 @@
 #include "cli/DocumentPainter.h"
 
+#include <sys/stat.h>
+
 #include <exception>
 #include <new>
 
 #include "cli/DocumentStream.h"
+#include "cli/Interruption.h"
 #include "cli/RenderOptions.h"
 #include "vexa/support/core/Exception.h"
 #include "vexa/support/core/StringTable.h"
@@ -14,9 +17,17 @@ namespace {
 constexpr int kNoMemory = 35100;
 constexpr int kStrict = 35101;
 
+/// Whether a name is one of a pipe or a device, which may keep its writer waiting.
+bool isSpecialFile(const std::string& name) {
+    struct stat status = {};
+    return ::stat(name.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
+}
+
 void writeOutput(const std::string& output, std::string_view bytes) {
-    if (output != kStandardStream) return IO::writeWholeFile(output, bytes);
-    IO::FileStream::standardOutput()->write(bytes.data(), bytes.size());
+    if (output == kStandardStream) return IO::FileStream::standardOutput()->write(bytes);
+    if (isSpecialFile(output)) return IO::writeWholeFile(output, bytes);
+    const UninterruptedScope scope;
+    IO::writeWholeFile(output, bytes);
 }
 
 /// Paints; where there is no element, the engine misses an object, and the reader of the message needs plainer words.

@@ -6,6 +6,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/FontsCommand.h"
+#include "cli/Interruption.h"
 #include "cli/Messages.h"
 #include "cli/RenderCommand.h"
 #include "cli/SchemaCommand.h"
@@ -30,6 +31,7 @@ ExitStatus show(const Answer& answer, Console& console) {
 
 int runProgram(int count, const char* const* arguments, const Painter& paint) {
     StandardError console;
+    handleSignals();
     try {
         const CommandLine line = parseCommandLine(count, arguments);
         if (line.render) return render(*line.render, paint, console);

@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "vexa/check/DocumentCheck.h"
-#include "vexa/support/core/Limits.h"
 
 namespace {
 
@@ -203,39 +202,6 @@ TEST(Docs, TheGalleryShowsEveryExample) {
         at = start == page.size() ? start : page.find("```", start);
     }
     EXPECT_EQ(kept, written) << "scripts/update-docs renews the gallery";
-}
-
-TEST(Docs, TheSecurityPageTellsTheLimits) {
-    const auto whole = [](double value) { return std::to_string(static_cast<long long>(value)); };
-    const std::string page = contentOf(kSource / "SECURITY.md");
-    const std::pair<const char*, std::string> rows[] = {
-        {"elements open in each other", whole(Limits::kNestingDepth)},
-        {"attributes of an element, namespace declarations counted", whole(Limits::kAttributes)},
-        {"elements of a document", whole(Limits::kElements)},
-        {"bytes of a tag or of a value", whole(Limits::kTagBytes)},
-        {"warnings told of a document", whole(Limits::kWarnings)},
-        {"characters of a document in a message", whole(Limits::kQuotedCharacters)},
-        {"generated values of an axis", whole(Limits::kAxisValues)},
-        {"rings of a web", whole(Limits::kWebRings)},
-        {"corners of the rings of a web", whole(Limits::kWebCorners)},
-        {"corners, axis values and label characters of a picture", whole(Limits::kPictureCorners)},
-        {"lines of a caption", whole(Limits::kCaptionLines)},
-        {"characters of a number pattern, of a date pattern", whole(Limits::kNumberPattern)},
-        {"characters of a number pattern, of a date pattern", whole(Limits::kDatePattern)},
-        {"stops of a gradient", whole(Limits::kGradientStops)},
-        {"entries of a dash pattern", whole(Limits::kDashEntries)},
-        {"characters of a font family", whole(Limits::kFontFamily)},
-        {"font size in px", whole(Limits::kFontSize)},
-        {"characters shaped as one letter with its marks", whole(Limits::kClusterCharacters)},
-        {"dashes of an outline in pixels", whole(Limits::kDashes)},
-        {"pixels of a side of a PNG", whole(Limits::kRasterSide)},
-        {"bytes of the pixels of a PNG", whole(Limits::kRasterBytes)},
-        {"px of a side of a PDF", whole(Limits::kPdfSide)},
-    };
-    for (const auto& [what, number] : rows) {
-        const std::string row = std::string("| ") + what + " | " + number + " |";
-        EXPECT_NE(page.find(row), std::string::npos) << row;
-    }
 }
 
 TEST(Docs, TheChartAndTheProgramOfTheReadmeMakeAPicture) {

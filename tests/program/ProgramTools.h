@@ -21,7 +21,7 @@ struct Outcome {
 
 /// What a shell does with a command in the directory.
 inline Outcome shell(const TestDirectory& directory, const std::string& command) {
-    const int status = std::system(("cd " + directory.path("") + " && " + command + " >.out 2>.err").c_str());
+    const int status = std::system(("cd " + directory.path("") + " && (" + command + ") >.out 2>.err").c_str());
     return {WEXITSTATUS(status), directory.read(".out"), directory.read(".err")};
 }
 

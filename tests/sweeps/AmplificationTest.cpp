@@ -19,14 +19,19 @@ std::string page(const std::string& content, const std::string& attributes = "")
            content + "</root>";
 }
 
-std::string plot(const std::string& valueAxis, const std::string& content) {
-    return page("<plot-area show-captions='true'><category-axis/><value-axis " + valueAxis + "</value-axis>" + content +
-                "</plot-area>");
+std::string plot(const std::string& valueAxis) {
+    return page("<plot-area labels-position='overflow'><category-axis/><value-axis orientation='vertical' " +
+                valueAxis + "</value-axis></plot-area>");
 }
 
-std::string lineOf(int points, const std::string& serie, const std::string& point) {
-    return "<line-chart><serie " + serie + ">" +
-           repeated("<data-point category='A' value='1' " + point + "/>", points) + "</serie></line-chart>";
+/// A line whose points are in a category of their own each, with a caption.
+std::string lineOf(int points, const std::string& serie) {
+    std::string result = "<line-chart><serie " + serie + ">";
+    for (int i = 0; i < points; ++i) {
+        const std::string number = std::to_string(i);
+        result += "<data-point category='" + number + "' caption='c" + number + "' value='" + number + "'/>";
+    }
+    return result + "</serie></line-chart>";
 }
 
 std::string gradient(int stops) {
@@ -40,23 +45,27 @@ struct Attack {
 };
 
 const Attack kAttacks[] = {
-    {"OneCaptionForEveryPoint", [] { return plot(">", lineOf(10'000, "", "caption='" + std::string(90, 'w') + "'")); }},
-    {"OneMarkerForEveryPoint", [] { return plot(">", lineOf(20'000, "marker='circle' fill='red'", "")); }},
-    {"LabelsOfALongPattern",
+    {"AMarkerAndACaptionForEveryPoint",
      [] {
-         return plot("unit='1' min='0' max='99999'><display-values format='" + std::string(100'000, '0') + "'/>", "");
+         return page(
+             gradient(256) + "<plot-area show-captions='true'><category-axis/><value-axis orientation='vertical'/>" +
+             lineOf(5'000, "marker='circle' marker-width='5' stroke='url(#g)' fill='url(#g)'") + "</plot-area>");
      }},
+    {"LabelsOfALongPattern",
+     [] { return plot("unit='1' min='0' max='99999'><display-values format='" + std::string(100'000, '0') + "'/>"); }},
     {"LabelsOfQuotedText",
      [] {
-         return plot(
-             "unit='1' min='0' max='9999'><display-values format='0&quot;" + std::string(990, 'w') + "&quot;'/>", "");
+         return plot("unit='1' min='0' max='9999'><display-values format='0&quot;" + std::string(990, 'w') +
+                     "&quot;'/>");
      }},
     {"LabelsOfALongDate",
      [] {
          return page(
-             "<plot-area><category-axis data-type='date' unit='days' min='1900-01-01' max='2100-01-01'>"
+             "<plot-area labels-position='overflow'><category-axis data-type='date' unit='days' min='1900-01-01' "
+             "max='2100-01-01'>"
              "<display-values format='" +
-             std::string(100'000, 'y') + "'/></category-axis><value-axis/></plot-area>");
+             std::string(100'000, 'y') +
+             "'/></category-axis><value-axis orientation='vertical' min='0' max='9'/></plot-area>");
      }},
     {"ManyAxesOfManyValues",
      [] {
@@ -67,31 +76,34 @@ const Attack kAttacks[] = {
      }},
     {"OneGradientForManySlices",
      [] {
-         return page(gradient(20'000) + "<pie fill='url(#g)'>" + repeated("<slice value='1'/>", 10'000) + "</pie>");
+         return page(gradient(20'000) + "<pie>" + repeated("<slice value='1' fill='url(#g)'/>", 10'000) + "</pie>");
      }},
     {"AChainOfGradients",
      [] {
          std::string defs;
          for (int i = 0; i < 20'000; ++i)
              defs += "<linear-gradient id='g" + std::to_string(i) + "' href='#g" + std::to_string(i + 1) + "'/>";
+         defs += "<linear-gradient id='g20000'><stop stop-color='red'/><stop offset='1'/></linear-gradient>";
          return page("<defs>" + defs + "</defs><pie>" + repeated("<slice value='1' fill='url(#g0)'/>", 1000) +
                      "</pie>");
      }},
     {"GradientsWithOneId",
      [] {
-         return page("<defs>" + repeated("<linear-gradient id='g'><stop/></linear-gradient>", 20'000) +
-                     "</defs><pie fill='url(#g)'>" + repeated("<slice value='1'/>", 5000) + "</pie>");
+         return page("<defs>" + repeated("<linear-gradient id='g'><stop/></linear-gradient>", 20'000) + "</defs><pie>" +
+                     repeated("<slice value='1' fill='url(#g)'/>", 5000) + "</pie>");
      }},
     {"TransformsOfManySteps",
      [] {
          return page("<defs><linear-gradient id='g' gradientTransform='" + repeated("rotate(1) ", 50'000) +
-                     "'><stop/><stop offset='1'/></linear-gradient></defs><pie fill='url(#g)'>" +
-                     repeated("<slice value='1'/>", 5000) + "</pie>");
+                     "'><stop/><stop offset='1'/></linear-gradient></defs><pie>" +
+                     repeated("<slice value='1' fill='url(#g)'/>", 5000) + "</pie>");
      }},
-    {"ADashPatternForManySlices",
+    {"ADashPatternForManyRings",
      [] {
-         return page("<pie stroke='red' stroke-dasharray='" + repeated("1 ", 100'000) + "'>" +
-                     repeated("<slice value='1'/>", 10'000) + "</pie>");
+         return page("<spider unit-frequency='0.1' web-stroke='red' web-stroke-dasharray='" +
+                     repeated("1.25 ", 100'000) +
+                     "'><spider-axis id='a' min='0' max='900'/><spider-axis id='b' min='0' max='900'/><spider-axis "
+                     "id='c' min='0' max='900'/><spider-serie stroke='red'/></spider>");
      }},
     {"AFontFamilyForManyTexts",
      [] {
