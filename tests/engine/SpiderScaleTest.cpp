@@ -56,6 +56,7 @@ TEST(SpiderScale, RingStepDividesTheScaleIntoWholeNumbers) {
     } cases[] = {
         {{0, 100}, 150, 0, 4, "at most 37 rings, and 25 is the largest divisor of 100 below"},
         {{-60, 40}, 150, 0, 4, "both ends count"},
+        {{-30.3F, 69.7F}, 150, 0, 4, "they are 100 apart, not 99.99999"},
         {{0, 97}, 150, 0, 97, "a prime number has no divisor: one step"},
         {{0, 100}, 11.9F, 0, 50, "room for two rings"},
         {{0, 100}, 7.9F, 0, 100, "room for one ring: no division"},

@@ -75,8 +75,11 @@ SpiderScale spiderScale(const SpiderScale& data, const SpiderExtent& bounds) noe
 
 float spiderRingStep(const SpiderScale& scale, float radius, float wanted) noexcept {
     if (wanted > 0) return wanted;
-    const double whole =
-        std::trunc(std::abs(static_cast<double>(scale.min)) + std::abs(static_cast<double>(scale.max)));
+    const double ends = std::abs(static_cast<double>(scale.min)) + std::abs(static_cast<double>(scale.max));
+    // In single precision, as the ends are, where that knows every whole number: -30.3 and 69.7 are 100 apart.
+    constexpr double kWholeNumbers = 16'777'216;  // 2^24
+    const bool isSingle = ends < kWholeNumbers;
+    const double whole = std::trunc(isSingle ? static_cast<double>(static_cast<float>(ends)) : ends);
     if (!(whole <= std::numeric_limits<float>::max() * 2.0)) return kBeyond;
     const WholeNumber number(whole);
     const int mostRings = std::min(Math::toInt(radius / kPixelsPerRing), static_cast<int>(Limits::kWebRings));
