@@ -10,7 +10,7 @@ std::string offeredFor(const TestDirectory& directory, const std::string& words)
     directory.write("complete.bash",
                     "source <(\"$1\" completion bash); shift\n"
                     "COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _vexa\n"
-                    "printf '%s\\n' \"${COMPREPLY[@]}\" | sort | tr '\\n' ' '\n");
+                    "printf '%s\\n' \"${COMPREPLY[@]}\" | LC_ALL=C sort | tr '\\n' ' '\n");
     const Outcome told = shell(directory, "bash complete.bash " VEXA_PROGRAM " vexa " + words);
     return told.errors + told.output;
 }
