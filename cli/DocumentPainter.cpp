@@ -8,12 +8,14 @@
 #include "cli/DocumentStream.h"
 #include "cli/Interruption.h"
 #include "cli/RenderOptions.h"
+#include "vexa/engine/ChartNamespace.h"
 #include "vexa/support/core/Exception.h"
 #include "vexa/support/core/StringTable.h"
 
 namespace VEXA::Cli {
 namespace {
 
+constexpr int kEmptyDocument = 34115;
 constexpr int kNoMemory = 35100;
 constexpr int kStrict = 35101;
 
@@ -36,8 +38,7 @@ void paintFrom(DocumentStream& document, const Painter& paint, SmartPtr<RenderCo
         paint(&document, std::move(surface));
     } catch (const NullPointerException& error) {
         if (error.getPlace().isKnown() || document.hasElement()) throw;
-        raise(UnreacheableCodeException("the document is empty; a chart document starts with the element root"),
-              "DocumentPainter", __LINE__, {1, 1});
+        raise(Exception(kEmptyDocument, {String(chartNamespace().uri)}), "DocumentPainter", __LINE__, {1, 1});
     }
 }
 

@@ -178,6 +178,8 @@ TEST(DocumentCheck, HintsAtWhatWillDisappoint) {
         return "<plot-area " + attributes + "><line-chart>\n<serie><data-point category='A' value='1' " + point +
                "/></serie></line-chart><value-axis/><category-axis/></plot-area>";
     };
+    const std::string serie = "<serie fill='red'>" + points({"A", "B"}) + "</serie>";
+    const std::string axes = "<value-axis/><category-axis/>";
     std::string slices = "<slice value='300' stroke='red'/>";
     for (int i = 0; i < 20; ++i) slices += "<slice value='1' stroke='red' caption='Caption'/>";
     const auto numbers = [&](const char* last) {
@@ -219,7 +221,18 @@ TEST(DocumentCheck, HintsAtWhatWillDisappoint) {
          "no dates"},
         {line(points({"A", "B", "2024-03-01"}) + "\n" + points({"3/25/2024"}), ""), "2:1 hint 34128; ",
          "beside a date"},
-        {line(points({"05.03.2024"}), ""), "", "names that look like dates"},
+        {line("\n" + points({"05.03.2024"}), ""), "2:1 hint 34128; ", "all look like dates"},
+        {line(points({"05.03.2024"}), "<category-axis data-type='text'/>"), "", "and are meant as names"},
+        {line(points({"05.03.2024", "total"}), ""), "", "one does not"},
+        {line("<data-point category='A' value='4'/>\n<data-point category='B' value='5'/>",
+              "<value-axis><display-values min='0' max='4'/></value-axis>"),
+         "2:1 hint 34133; ", "above the axis, not the one on its end"},
+        {line(points({"2019", "2020"}), "<category-axis><display-values min='2020'/></category-axis>"),
+         "1:143 hint 34133; ", "before it"},
+        {page("<plot-area>\n<area-chart grouping='stacked'>" + serie + serie + "</area-chart>" + axes + "</plot-area>"),
+         "2:1 hint 34134; ", "areas are not summed up"},
+        {page("<plot-area>\n<area-chart grouping='stacked'>" + serie + "</area-chart>" + axes + "</plot-area>"), "",
+         "one is no stack"},
         {numbers("2,5"), "1:143 hint 34129; ", "values that count as texts"},
         {numbers("high"), "1:143 hint 34129; ", "the first one that was meant as a number"},
         {page("<title value='T' x='a' stroke-width='-1'/>\n<legend width='a'><legend-item/></legend>"),

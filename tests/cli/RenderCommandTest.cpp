@@ -44,7 +44,9 @@ Outcome run(const RenderOptions& options) {
 }
 
 TEST(RenderCommand, TellsWhatFailsInOneLineWithItsPlaceAndLeavesNoFile) {
-    const std::string empty = ":1:1: error: the document is empty; a chart document starts with the element root\n";
+    const std::string empty =
+        ":1:1: error: the document is empty; a chart document starts with <root "
+        "xmlns=\"http://vexa-charts.org/2008/vx\">\n";
     const std::string missing =
         ": error: a mandatory object is missing: the document is empty, or an element lacks a child that it needs; "
         "add it\n";

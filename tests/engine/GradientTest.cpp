@@ -53,6 +53,10 @@ TEST(Gradient, ReadsItsAttributes) {
         {"radial-gradient id='g' href='#m'/><radial-gradient id='m' href='#r' gradientTransform='scale(2)'><stop/>"
          "</radial-gradient>",
          "radial 1:#000000/1", "0.5,0.5 0.5,0.5 box pad 1 0 0 1 0 0", "one step only, and stops only"},
+        {"linear-gradient id='g' href='#m'/><linear-gradient id='m' href='#l'/>", "linear",
+         "0,0 1,0 box pad 1 0 0 1 0 0", "not a second one where the first has no stops either"},
+        {"linear-gradient id='g' gradientTransform='rotate(90 1 2) skewX(45) matrix(1 2 3 4 5 6)'/>", "linear",
+         "0,0 1,0 box pad -2 3 -4 7 -3 12", "the last transform is applied first"},
         {"linear-gradient id='g' href='#g'><stop/></linear-gradient>", "linear 1:#000000/1",
          "0,0 1,0 box pad 1 0 0 1 0 0", "itself is one step away"},
     };
@@ -130,8 +134,9 @@ TYPED_TEST(Referring, FillsAndStrokesFindTheGradientOrWarn) {
     this->object_->setThemeFill(make<SolidColorBrush>(rgb(0x3264c8)));
     this->refer("#missing");
     EXPECT_EQ(this->fill(Normal), isArea ? "empty" : "#3264c8/1");
+    EXPECT_EQ(this->fill(Darker), isArea ? "empty" : "#193264/1") << "the theme's fill is shaded";
     EXPECT_EQ(this->stroke(), "3 empty") << "a stroke without a brush";
-    EXPECT_EQ(this->log_.told(), "34001@8:2 34001@8:2");
+    EXPECT_EQ(this->log_.told(), "34001@8:2 34001@8:2 34001@8:2");
     EXPECT_NE(this->log_.records.at(0).message.find("#missing"), String::npos);
 }
 

@@ -141,6 +141,16 @@ TEST(Legend, ContentIsTurnedInsideItsBox) {
     }
 }
 
+TEST(Legend, DockedAndTurnedItsRowRunsAlongTheEdge) {
+    const CapturedLog log;
+    const auto calls = legendCalls("width='40' orientation='rotate90'", item("One") + item("Two"));
+    EXPECT_EQ(captionsOf(calls), "One@14,10 Two@52,10") << "70 px have room in the page's 300";
+    EXPECT_EQ(calls.at(0).box, "360,144 40 x 12") << "as high as the row";
+    EXPECT_EQ(calls.at(1).transform, "0 1 -1 0 400 144");
+    EXPECT_EQ(calls.at(1).clips.at(1), "-0.5,-0.5 40.5,-0.5 40.5,12.5 -0.5,12.5 | 1 0 0 1 360 144");
+    EXPECT_EQ(log.codes(), "34051") << "of the 12 px the second item shows nothing, it begins at 38";
+}
+
 TEST(Legend, MarkersStandInTheMiddleOfTheFirstLine) {
     const std::string style = " fill='#010203' stroke='#040506' caption-color='#070809'";
     const struct {

@@ -178,7 +178,7 @@ std::vector<DrawCall> titleCalls(const std::string& attributes) {
 }
 
 TEST(Title, TextIsWrappedAndCutInItsBox) {
-    const auto calls = titleCalls("value='alpha abcdefghijkl' width='60' height='40' x='7' y='9'");
+    const auto calls = titleCalls("value='alpha abcdefghijkl' width='60' height='24' x='7' y='9'");
     ASSERT_EQ(calls.size(), 4U) << "the box and three lines of ten characters";
     EXPECT_EQ(calls[1].text + '|' + calls[2].text + '|' + calls[3].text, "alpha |abcdefghij|kl") << "long words too";
     EXPECT_EQ(calls[1].origin, "0,10") << "one line height below the top";
@@ -186,8 +186,9 @@ TEST(Title, TextIsWrappedAndCutInItsBox) {
     for (const DrawCall& call : calls) {
         EXPECT_EQ(call.transform, "1 0 0 1 7 9");
         ASSERT_EQ(call.clips.size(), 2U) << "the page's clip and its own";
-        EXPECT_EQ(call.clips[1], "-1,-1 60,-1 60,40 -1,40 | 1 0 0 1 7 9") << "a pixel more at the top and the left";
+        EXPECT_EQ(call.clips[1], "-1,-1 60,-1 60,24 -1,24 | 1 0 0 1 7 9") << "a pixel more at the top and the left";
     }
+    EXPECT_EQ(calls[3].origin, "0,34") << "below the box, which cuts it";
 }
 
 TEST(Title, BoxHasTheFillAndTheStrokeAndTheTextAColourOfItsOwn) {

@@ -37,6 +37,7 @@ TEST(SpiderChart, SeriesAreClosedPolygonsWithACornerOnEachSpoke) {
     const Case<std::string, const char*> cases[] = {
         {point("d", "10") + point("b", "20") + point("a", "50") + point("c", "30"), "0,-150 60,0 0,90 -30,0",
          "the order is that of the axes, not that of the points"},
+        {point("a", "50") + bcd, "0,-150 150,0 0,150 -150,0", "all at the tips"},
         {point("a", "50") + point("c", "50"), "0,-150 0,0 0,150 0,0", "a missing point is the centre"},
         {point("a", "10") + point("a", "40") + bcd, "0,-30 150,0 0,150 -150,0", "the first of two for an axis counts"},
         {point("a", "-10") + bcd, "0,30 150,0 0,150 -150,0", "below the minimum: the other side of the centre"},

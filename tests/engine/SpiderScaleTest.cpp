@@ -56,6 +56,7 @@ TEST(SpiderScale, RingStepDividesTheScaleIntoWholeNumbers) {
     } cases[] = {
         {{0, 100}, 150, 0, 4, "at most 37 rings, and 25 is the largest divisor of 100 below"},
         {{-60, 40}, 150, 0, 4, "both ends count"},
+        {{0, 90}, 150, 0, 3, "30 is the largest divisor of 90 below 38"},
         {{-30.3F, 69.7F}, 150, 0, 4, "they are 100 apart, not 99.99999"},
         {{0, 97}, 150, 0, 97, "a prime number has no divisor: one step"},
         {{0, 100}, 11.9F, 0, 50, "room for two rings"},
@@ -79,6 +80,7 @@ TEST(SpiderScale, RingsRunFromTheMinimumToTheMaximum) {
         {{0, 100}, 30, "0 30 60 90 100", "the last step is cut short"},
         {{-25, 40}, 13, "-25 -12 1 14 27 40", "steps count from the minimum, so zero has no ring of its own"},
         {{0, 0.5F}, 0, "0 0.5", "no step: both ends"},
+        {{-0.25F, 0.5F}, 0, "-0.25 0.5", "both of them fractions"},
         {{0, 10}, 50, "0 10", "a step beyond the maximum"},
         {{3, 3}, 1, "3", "no extent: one ring"},
         {{0, 100}, 33.3333F, "0 33.33 66.67 100", "rounding does not draw the outermost ring twice"},

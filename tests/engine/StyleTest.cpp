@@ -124,6 +124,7 @@ TEST(Style, CylinderRunsFromDarkOverTheMainColourToDark) {
     } cases[] = {
         {"a solid theme fill gives its opacity to all stops", solid(kBlue, 0.8F), "", blue},
         {"of four stops the third", gradientOf({rgb(1), rgb(1), rgb(kRed), rgb(1)}), "", third},
+        {"and of five", gradientOf({rgb(1), rgb(1), rgb(kRed), rgb(1), rgb(1)}), "", third},
         {"an own fill is the main colour", solid(kBlue), "fill=#c80000",
          "linear 0:#640000/1 0.5:#c80000/1 0.7:#c80000/1 0.9:#640000/1"},
         {"none leaves it to the theme, as for flat fills", solid(kBlue, 0.8F), "fill=none", blue},
@@ -141,7 +142,8 @@ TEST(Style, CylinderRunsFromDarkOverTheMainColourToDark) {
     element->setThemeFill(solid(kBlue));
     const auto lie = [&](AxisOrientation axis) { return geometryOf(element->getCylinderFillBrush(axis, 0.5F)); };
     EXPECT_EQ(lie(AxisOrientation::Vertical), "0,0 1,0 box pad 1 0 0 1 0 0") << "across the bar";
-    EXPECT_EQ(lie(AxisOrientation::Horizontal), "0,0 0,1 box pad 1 0 0 1 0 0");
+    for (const auto axis : {AxisOrientation::Horizontal, AxisOrientation::Automatic, static_cast<AxisOrientation>(9)})
+        EXPECT_EQ(lie(axis), "0,0 0,1 box pad 1 0 0 1 0 0");
 
     const auto root = load(rootWith("", R"(<defs><linear-gradient id="g"><stop offset="0" stop-color="#010203"/>
                                            <stop stop-color="#3264c8" stop-opacity="0.7"/></linear-gradient></defs>)"));

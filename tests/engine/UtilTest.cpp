@@ -102,6 +102,8 @@ TEST(UtilRanges, WholePartsRoundUp) {
         {{10, 3}, 4, "rounded up"},
         {{-2147483647 - 1, -1}, 2147483647, "the one quotient of ints that is none"},
         {{12, 0}, 12, "no parts: the whole"},
+        {{9, 3}, 3, "no remainder"},
+        {{100000001, 10}, 10000000, "10000000.1 is 10000000 in single precision"},
     };
     for (const auto& c : cases) EXPECT_EQ(Util::getIntMinUnit(c.in.first, c.in.second), c.out) << c.why;
 }
@@ -110,6 +112,7 @@ TEST(UtilRanges, StepDividesTheSpanIntoThatManyParts) {
     const Case<std::pair<float, int>, float> cases[] = {
         {{60, 5}, 20, "12 becomes 20"},
         {{0.05F, 5}, 0.1F, "no step below a tenth"},
+        {{0.6F, 4}, 0.2F, "0.15 becomes 0.2"},
         {{0, 7}, 0, "no span"},
         {{60, 0}, 0.1F, "no parts"},
         {{60, 2147483647}, 1, "more parts than units: at least a unit"},

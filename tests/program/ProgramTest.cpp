@@ -18,6 +18,8 @@ TEST(Program, TellsEveryFaultInOneLineWithItsPlaceAndLeavesNoFile) {
     };
     const Case cases[] = {
         {kOpen + "<title>\n</root>", "chart.xml:3:3: error: ", "malformed", "the end tag of another element"},
+        {kOpen + "<title value='Gr\xFC\xDF'/></root>", "chart.xml:2:17: ", "as UTF-8", "bytes of Latin-1"},
+        {kOpen + "<title value='Gr\xC3\xBC\xC3\x9F' & /></root>", "chart.xml:2:", "&amp;", "a fault beside UTF-8"},
         {kOpen + "<title value='a'", "chart.xml:2:", "malformed", "a file that was cut off"},
         {kOpen + "  <title stroke-width='thick'/></root>", "chart.xml:2:", "\"thick\"", "a value that is no length"},
         {"", "chart.xml:1:1: error: ", "empty", "an empty file"},

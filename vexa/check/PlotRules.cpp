@@ -14,6 +14,8 @@ constexpr int kYears = 34120;
 constexpr int kHalfBars = 34123;
 constexpr int kTextForDate = 34128;
 constexpr int kTextForNumber = 34129;
+constexpr int kBeyondAxis = 34133;
+constexpr int kStackedAreas = 34134;
 constexpr double kFirstYear = 1500;  // numbers between these two, and no others, are taken for years
 constexpr double kLastYear = 2200;
 constexpr float kClip = 1;  // px that the clip of a chart leaves around the plot
@@ -35,12 +37,15 @@ bool isCalendarUnit(AxisUnitsType unit) noexcept {
     return unit == AxisUnitsType::Days || unit == AxisUnitsType::Months || unit == AxisUnitsType::Years;
 }
 
-/// Whether the axis speaks of dates although it shows texts.
+/// Whether the axis speaks of dates although it shows texts, or all its texts read like dates.
 bool speaksOfDates(VexaPlotArea& plot) {
     if (isCalendarUnit(plot.getAxis(true).getUnit().getType())) return true;
-    return !forEachPoint(plot, [](const VexaContainerObject&, const VexaDataPoint& point) {
-        return point.getCategory().getKind() != ValueKind::Date;
-    });
+    bool areLikeDates = true;
+    return !forEachPoint(plot, [&](const VexaContainerObject&, const VexaDataPoint& point) {
+        const Value& category = point.getCategory();
+        areLikeDates = areLikeDates && (category.isNone() || !suggestDate(category.getValue().toUtf8()).empty());
+        return category.getKind() != ValueKind::Date;
+    }) || areLikeDates;
 }
 
 /// The first text on a text axis that `suggest` knows a better form of.
@@ -105,6 +110,38 @@ void checkBars(VexaPlotArea& plot, VexaRenderContext& context, ProblemList& prob
     if (!areWhole) problems.add(Severity::Hint, kHalfBars, {}, axis.getPlace());
 }
 
+/// A point on an end of the axis may lie this part of it beyond.
+constexpr float kRounding = 1e-4F;
+
+/// Points that an axis has no place for, although they are of its kind: its `min` and `max` leave them out.
+void checkReach(VexaPlotArea& plot, bool category, ProblemList& problems) {
+    VexaAxisObject& axis = plot.getAxis(category);
+    const ValueKind kind = plot.getDataKind(category);
+    std::int64_t beyond = 0;
+    SourcePlace first;
+    forEachPoint(plot, [&](const VexaContainerObject&, const VexaDataPoint& point) {
+        const Value& value = category ? point.getCategory() : point.getValue();
+        if (value.getKind() != kind || kind == ValueKind::Text) return true;
+        const float position = axis.getRelativePosition(value);
+        if (position >= -kRounding && position <= 1 + kRounding) return true;
+        if (beyond++ == 0) first = point.getPlace();
+        return true;
+    });
+    if (beyond == 0) return;
+    const AxisRange& range = axis.getRange();
+    problems.add(Severity::Hint, kBeyondAxis,
+                 {beyond, axis.getTypeInfo()->getElementName(), range.min.getValue(), range.max.getValue()}, first);
+}
+
+/// Bars alone stand on each other.
+void checkStacking(const VexaPlotArea& plot, ProblemList& problems) {
+    for (const auto& chart : plot.getCharts()) {
+        const bool isStacked = chart->getGrouping() == SerieGrouping::Stacked && chart->getSeries().size() > 1;
+        if (isStacked && chart->getContainerKind() != ContainerKind::Bar)
+            problems.add(Severity::Hint, kStackedAreas, {chart->getTypeInfo()->getElementName()}, chart->getPlace());
+    }
+}
+
 }  // namespace
 
 void checkPlotData(VexaPlotArea& plot, ProblemList& problems) {
@@ -126,6 +163,8 @@ void checkPlotData(VexaPlotArea& plot, ProblemList& problems) {
 void checkPlotLayout(VexaPlotArea& plot, VexaRenderContext& context, ProblemList& problems) {
     if (!hasBothAxes(plot)) return;
     checkYears(plot, problems);
+    checkStacking(plot, problems);
+    for (const bool category : {false, true}) checkReach(plot, category, problems);
     const SizeF size = plot.getAreaSize(context);
     if (size.width > 0 && size.height > 0) checkBars(plot, context, problems);
 }

@@ -41,13 +41,25 @@ std::size_t distance(std::string_view a, std::string_view b) noexcept {
     return (*above)[b.size()];
 }
 
+/// The first name that `wanted` is the beginning of.
+std::string_view completed(std::string_view wanted, std::span<const std::string_view> known) noexcept {
+    constexpr std::size_t kWord = 4;  // letters; fewer begin too many names
+    if (wanted.size() < kWord) return {};
+    const auto begins = [wanted](std::string_view name) {
+        return name.size() > wanted.size() && std::equal(wanted.begin(), wanted.end(), name.begin(), same);
+    };
+    const auto found = std::find_if(known.begin(), known.end(), begins);
+    return found == known.end() ? std::string_view() : *found;
+}
+
 }  // namespace
 
 std::string_view nearestName(std::string_view wanted, std::span<const std::string_view> known) noexcept {
     if (wanted.size() > kMaxLength) return {};
+    known = known.first(std::min(known.size(), Limits::kNearestNames));
     std::string_view nearest;
     std::size_t limit = std::clamp<std::size_t>(wanted.size() / 3, 1, 3);
-    for (const std::string_view name : known.first(std::min(known.size(), Limits::kNearestNames))) {
+    for (const std::string_view name : known) {
         const std::size_t shorter = std::min(name.size(), wanted.size());
         const std::size_t longer = std::max(name.size(), wanted.size());
         if (longer > kMaxLength || longer - shorter > limit) continue;
@@ -57,7 +69,7 @@ std::string_view nearestName(std::string_view wanted, std::span<const std::strin
         nearest = name;
         limit = edits;
     }
-    return nearest;
+    return nearest.empty() ? completed(wanted, known) : nearest;
 }
 
 }  // namespace VEXA

@@ -56,6 +56,7 @@ constexpr Message kMessages[] = {
     {3018, R"(element "{0}" may not stand in "{1}" and is skipped; write it inside {2})"},
     {3019, R"(a second "{0}" of "{1}" is ignored, the first one is kept; write it once, without a prefix)"},
     {3020, R"(element "{0}" may not stand in "{1}" and is skipped; no element takes it, remove it)"},
+    {3021, R"(attribute "{0}" does not belong to "{1}" and is ignored; write it on {2})"},
 
     // Charts.
     {34000, R"(a spider data point has no axis; give it an "axis-id" that is the "id" of one of the axes)"},
@@ -106,8 +107,8 @@ constexpr Message kMessages[] = {
      "the legend has no room for {0} of its captions, they are cut short or left out; give it more \"width\", or "
      "\"height\" where it is turned"},
     {34051,
-     "the legend shows nothing of {0} of its items, they lie outside its box or the page; give it more \"width\" or "
-     "\"height\""},
+     "the legend shows nothing of {0} of its items, they lie outside its box or the page; give it a \"width\" and a "
+     "\"height\" that hold them and keep within the page"},
 
     {34060,
      "the number format \"{0}\" has a setting that counts as text; write them behind the pattern in the order th:, "
@@ -172,7 +173,7 @@ constexpr Message kMessages[] = {
     // What only a check tells: hints.
     {34120, R"(the categories are years, but count as numbers on an axis from {0} to {1}; write data-type="text" for )"
             R"(the "category-axis", or give its "display-values" a "min")"},
-    {34121, R"(the legend is docked at the {0} and as {1} as the page, it covers the chart; give it a "{2}")"},
+    {34121, R"(the legend is docked at the {0} and as {1} as the page, it covers the chart; give it a smaller "{2}")"},
     {34122,
      R"(the legend is {0} by {1} px, which is more than the page of {2} by {3} px; give it less "width" or "height")"},
     {34123, R"(bars at the ends of the "category-axis" are cut in half; give it <display-values )"
@@ -183,11 +184,17 @@ constexpr Message kMessages[] = {
     {34125, R"(the grid lines have no stroke, none shows; write a "stroke", or leave <grid-lines> out)"},
     {34126, R"(the web has no width, nothing of it shows; write a "web-stroke-width" above 0, or draw-web="false")"},
     {34127, R"(nothing of this {0} shows, it has neither "fill" nor "stroke"; write one of them)"},
-    {34128, R"("{0}" counts as a text and not as a date; write "{1}")"},
+    {34128, R"("{0}" counts as a text and not as a date; write "{1}", or data-type="text" for the axis of a name)"},
     {34129, R"("{0}" counts as a text and not as a number, so the "value-axis" shows texts; write "{1}")"},
     {34130, R"(the line of this series has no stroke, nothing of it shows; write a "stroke")"},
     {34131, R"({0} captions of the pie would lie over others and are left out; make it larger, or write a smaller )"
             R"("font-size")"},
+    {34133,
+     R"(data points outside the "{1}", which goes from {2} to {3}, do not show or are cut, {0} in all, this one first; )"
+     R"(leave "min" and "max" out, or make room for them)"},
+    {34134,
+     R"(the series of this "{0}" are painted over each other, grouping="stacked" puts bars alone on each other; give )"
+     R"(each series the sums, or take a bar-chart)"},
 
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},

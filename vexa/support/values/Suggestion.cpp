@@ -74,12 +74,19 @@ std::string isoDate(int year, int month, int day) {
     return DateTimeEx::isValid(year, month, day) ? DateTimeEx(year, month, day).toString() : std::string();
 }
 
+/// The opaque colour of "rgba(r,g,b,a)"; other texts as they are.
+std::string withoutAlpha(const std::string& text) {
+    const std::size_t last = text.rfind(',');
+    if (!text.starts_with("rgba(") || last == std::string::npos) return text;
+    return "rgb(" + text.substr(5, last - 5) + ")";
+}
+
 }  // namespace
 
 std::string suggestValue(std::string_view text, std::string_view typeName, bool (*reads)(std::string_view)) {
     if (text.size() > kLongestText) return {};
     const std::string plain = compact(text);
-    for (const std::string& guess : {plain, withoutCommas(plain), "#" + plain}) {
+    for (const std::string& guess : {plain, withoutCommas(plain), "#" + plain, withoutAlpha(plain)}) {
         if (reads(guess)) return guess;
     }
     return std::string(nearestName(plain, namesOf(typeName)));

@@ -25,7 +25,9 @@ std::string ValueTraits<float>::print(const float& value) {
     Format::appendShortest(value, result);
     return result;
 }
-std::string_view ValueTraits<float>::expectation() noexcept { return "a number"; }
+std::string_view ValueTraits<float>::expectation() noexcept {
+    return "a number (write digits alone, with a point for the decimals)";
+}
 std::string_view ValueTraits<float>::name() noexcept { return "float"; }
 
 bool ValueTraits<String>::parse(std::string_view text, String& out) {

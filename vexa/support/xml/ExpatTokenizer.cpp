@@ -16,17 +16,22 @@ constexpr char kSeparator = '\n';  // between namespace and name: no name can ho
 constexpr std::size_t kBlockSize = 64 * 1024;
 constexpr std::size_t kSliceSize = 256U << 20;  // expat counts bytes of one call in int
 
+constexpr const char* kNotUtf8 =
+    "bytes that are no UTF-8 (save the document as UTF-8, or begin it with a line such as <?xml version=\"1.0\" "
+    "encoding=\"ISO-8859-1\"?>)";
+
 /// What expat's commoner errors mean for the writer of the document.
 const char* describe(XML_Error error) noexcept {
     switch (error) {
         case XML_ERROR_SYNTAX:
             return "something other than a tag stands before the top element (take it out; a document starts with <)";
         case XML_ERROR_NO_ELEMENTS:
-            return "the document ends before its elements are closed";
+            return "the document ends before its elements are closed (close each with </name> or />)";
         case XML_ERROR_UNCLOSED_TOKEN:
             return "the document ends inside a tag, a comment or a value";
         case XML_ERROR_TAG_MISMATCH:
-            return "this end tag does not belong to the element that is open";
+            return "this end tag does not belong to the element that is open (close that one first, with </name> or "
+                   "/>)";
         case XML_ERROR_INVALID_TOKEN:
             return "a character that may not stand here (write & as &amp;, < as &lt;, and put values in quotes)";
         case XML_ERROR_DUPLICATE_ATTRIBUTE:
@@ -148,7 +153,19 @@ private:
         if (error == XML_ERROR_UNKNOWN_ENCODING) {
             raise(Exception(3015, {quoteForMessage(String(encoding_))}), "ExpatTokenizer", __LINE__, getPlace());
         }
-        raise(handler_.malformed(String(describe(error))), "ExpatTokenizer", __LINE__, getPlace());
+        const char* const what = error == XML_ERROR_INVALID_TOKEN && isOtherEncoding() ? kNotUtf8 : describe(error);
+        raise(handler_.malformed(String(what)), "ExpatTokenizer", __LINE__, getPlace());
+    }
+
+    /// Whether the tag or text that expat has stopped at is no UTF-8 although the document should be.
+    bool isOtherEncoding() const {
+        int at = 0;
+        int size = 0;
+        const char* const input = XML_GetInputContext(parser_.get(), &at, &size);
+        if (!isUtf8_ || input == nullptr) return false;
+        const std::string_view rest(input + at, static_cast<std::size_t>(size - at));
+        const std::string_view token = rest.substr(0, rest.find('>'));
+        return String(token).toUtf8() != token;
     }
 
     XML_Status feed() { return whole_ ? feedWhole() : feedBlock(); }

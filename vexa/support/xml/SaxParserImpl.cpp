@@ -39,7 +39,17 @@ bool isRepeated(std::span<const XmlAttributeToken> tokens, const XmlNamespace& s
     });
 }
 
-/// The elements that take this child, for messages: `<a>, <b> or <c>`; empty when none does.
+/// `<a>, <b> or <c>`
+String listOf(std::span<const std::string_view> elements) {
+    std::string names;
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        if (i > 0) names += i + 1 == elements.size() ? " or " : ", ";
+        names.append("<").append(elements[i]).append(">");
+    }
+    return String(names);
+}
+
+/// The elements that take this child, for messages; empty when none does.
 String parentsOf(const XmlKey& child) {
     Vector<std::string_view> parents;
     for (const XmlObjectTypeInfo* const parent : XmlObjectFactory::instance().typeInfos()) {
@@ -47,12 +57,17 @@ String parentsOf(const XmlKey& child) {
         if (member != nullptr && member->getNamespace().uri == child.namespaceUri)
             parents.push_back(parent->getKey().name);
     }
-    std::string names;
-    for (std::size_t i = 0; i < parents.size(); ++i) {
-        if (i > 0) names += i + 1 == parents.size() ? " or " : ", ";
-        names.append("<").append(parents[i]).append(">");
+    return listOf(parents);
+}
+
+/// The elements that have this attribute, in the same form; empty when these are none, or too many to be of help.
+String ownersOf(std::string_view attribute) {
+    constexpr std::size_t kFew = 4;
+    Vector<std::string_view> owners;
+    for (const XmlObjectTypeInfo* const owner : XmlObjectFactory::instance().typeInfos()) {
+        if (!owner->isAbstract() && owner->findAttribute(attribute) != nullptr) owners.push_back(owner->getKey().name);
     }
-    return String(names);
+    return owners.size() > kFew ? String() : listOf(owners);
 }
 
 }  // namespace
@@ -280,6 +295,8 @@ private:
 
     void tellUnknownAttribute(const XmlObjectTypeInfo& info, std::string_view name) {
         if (!takesWarnings()) return leaveOutWarning(getPlace());
+        const String owners = ownersOf(name);
+        if (!owners.isEmpty()) return warn(3021, {String(name), info.getElementName(), owners}, getPlace());
         Vector<std::string_view> known = namesOf(info.attributes());
         for (const auto& inheritable : XmlObjectFactory::instance().inheritableNames())
             known.push_back(inheritable.name);
