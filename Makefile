@@ -5,13 +5,14 @@ VEXA := $(BUILD)/bin/vexa
 
 FUZZ_SECONDS ?= 60
 
-.PHONY: help packages demo test bench linearity soak tsan fuzz fuzz-coverage format clean
+.PHONY: help packages demo test bench linearity bounds soak tsan fuzz fuzz-coverage format clean
 
 help:
 	@echo "make demo       build, and draw every example into out/"
 	@echo "make test       build, and run all tests"
 	@echo "make bench      build, and run the benchmarks"
 	@echo "make linearity  count instructions: work must grow no faster than documents"
+	@echo "make bounds     memory and time of documents that ask for much, beside what SECURITY.md allows"
 	@echo "make soak       render 100,000 documents in one process: no memory and no descriptor may get lost"
 	@echo "make tsan       render on 8 threads under the thread sanitizer"
 	@echo "make fuzz       build the fuzz targets, and run each for FUZZ_SECONDS ($(FUZZ_SECONDS))"
@@ -40,6 +41,11 @@ linearity: $(BUILD)/build.ninja
 	@scripts/install-packages proof
 	cmake --build --preset release --target vexa_linearity
 	bench/linearity.sh $(BUILD)
+
+bounds: $(BUILD)/build.ninja
+	cmake --build --preset release --target vexa_bounds
+	$(BUILD)/bench/vexa_bounds
+	$(BUILD)/bench/vexa_bounds examples/*.xml tests/regressions/documents/* fuzz/corpus/fuzz_document_[dps]*/*
 
 soak: $(BUILD)/build.ninja
 	cmake --build --preset release --target vexa_soak

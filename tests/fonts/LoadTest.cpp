@@ -1,4 +1,3 @@
-#include <chrono>
 #include <cmath>
 #include <thread>
 
@@ -58,8 +57,8 @@ std::u32string repeated(std::u32string_view piece, std::size_t length) {
     return text;
 }
 
-// Each of these would take minutes if its time grew with the square of its length.
-TEST(LongTexts, TakeTimeInProportionToTheirLength) {
+// Each of these would take minutes, and the test be stopped, if its time grew with the square of its length.
+TEST(LongTexts, AreMeasuredAsTheyAreShaped) {
     constexpr std::size_t kLength = 100'000;
     const std::u32string texts[] = {
         repeated(U"a\u4E2D", kLength),
@@ -78,12 +77,10 @@ TEST(LongTexts, TakeTimeInProportionToTheirLength) {
         repeated(U"\uE000\u0301", kLength),
     };
     const auto program = systemFontService()->getFont(fontOf("sans-serif"));
-    const auto begin = std::chrono::steady_clock::now();
     for (const std::u32string& text : texts) {
         EXPECT_GE(program->measureString(String(text)), 0);
         EXPECT_EQ(std::llround(shaped(String(text)).advance), program->measureString(String(text)));
     }
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60)) << "each takes about 0.1 s";
     FontManager::takeMissing();
 }
 

@@ -3,7 +3,6 @@
 #include <expat.h>
 
 #include <algorithm>
-#include <ctime>
 #include <deque>
 #include <fstream>
 #include <iterator>
@@ -40,7 +39,6 @@ Rendered render(const std::string& document) {
     Rendered rendered;
     Records records(rendered.log);
     const LogScope scope(records);
-    const std::clock_t start = std::clock();
     const PeakMemory peak;
     const auto out = make<Blocks>();
     try {
@@ -50,7 +48,6 @@ Rendered render(const std::string& document) {
         rendered.place = error.getPlace();
     }
     rendered.peak = peak.bytes();
-    rendered.seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
     for (const std::string& block : out->blocks) rendered.bytes += block;
     return rendered;
 }
@@ -100,10 +97,6 @@ std::string displayListProblem(const std::string& list) {
 std::size_t memoryBound(const std::string& document, const Rendered& rendered) {
     const auto elements = static_cast<std::size_t>(std::ranges::count(document, '<'));
     return (std::size_t{64} << 20U) + 600 * elements + 40 * document.size() + rendered.bytes.size();
-}
-
-double timeBound(const std::string& document) {
-    return 2.0 * std::max(1.0, static_cast<double>(document.size()) / 1e6);
 }
 
 std::string hostDocument(const std::string& name) {

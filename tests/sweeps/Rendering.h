@@ -16,7 +16,6 @@ struct Rendered {
     SourcePlace place;  ///< of the error
     std::vector<LogRecord> log;
     std::size_t peak = 0;  ///< most bytes in use at once, above those of before
-    double seconds = 0;    ///< of processor time
 
     bool isDrawn() const noexcept { return error.empty(); }
 };
@@ -41,8 +40,6 @@ std::string displayListProblem(const std::string& list);
 
 /// The most bytes that a document may take, apart from the pixels of a picture.
 std::size_t memoryBound(const std::string& document, const Rendered& rendered);
-/// The most seconds of processor time that a document may take: two for each megabyte, and for what is smaller.
-double timeBound(const std::string& document);
 
 /// A chart document among these tests, by its name without extension.
 std::string hostDocument(const std::string& name);
