@@ -37,15 +37,22 @@ bool isCalendarUnit(AxisUnitsType unit) noexcept {
     return unit == AxisUnitsType::Days || unit == AxisUnitsType::Months || unit == AxisUnitsType::Years;
 }
 
-/// Whether the axis speaks of dates although it shows texts, or all its texts read like dates.
-bool speaksOfDates(VexaPlotArea& plot) {
-    if (isCalendarUnit(plot.getAxis(true).getUnit().getType())) return true;
-    bool areLikeDates = true;
-    return !forEachPoint(plot, [&](const VexaContainerObject&, const VexaDataPoint& point) {
+bool areAllLikeDates(const VexaPlotArea& plot) {
+    return forEachPoint(plot, [](const VexaContainerObject&, const VexaDataPoint& point) {
         const Value& category = point.getCategory();
-        areLikeDates = areLikeDates && (category.isNone() || !suggestDate(category.getValue().toUtf8()).empty());
-        return category.getKind() != ValueKind::Date;
-    }) || areLikeDates;
+        return category.isNone() || !suggestDate(category.getValue().toUtf8()).empty();
+    });
+}
+
+bool isAnyDate(const VexaPlotArea& plot) {
+    return !forEachPoint(plot, [](const VexaContainerObject&, const VexaDataPoint& point) {
+        return point.getCategory().getKind() != ValueKind::Date;
+    });
+}
+
+/// Whether the axis speaks of dates although it shows texts.
+bool speaksOfDates(VexaPlotArea& plot) {
+    return isCalendarUnit(plot.getAxis(true).getUnit().getType()) || isAnyDate(plot) || areAllLikeDates(plot);
 }
 
 /// The first text on a text axis that `suggest` knows a better form of.
