@@ -189,6 +189,11 @@ constexpr Message kMessages[] = {
     {34131, R"({0} captions of the pie would lie over others and are left out; make it larger, or write a smaller )"
             R"("font-size")"},
 
+    // Paints that show nothing.
+    {34132,
+     R"(nothing shows of what is painted with this gradient, "{0}" has no stops of its own; give it a "stop", or )"
+     R"(write the "href" of a gradient that has some)"},
+
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
     {35001, R"(a picture cannot be drawn at a scale of {0}; take one above 0)"},
