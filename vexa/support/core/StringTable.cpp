@@ -204,6 +204,10 @@ constexpr Message kMessages[] = {
     {35004, R"(the font "{0}" was measured but cannot be drawn with; take another font)"},
     {35005, "a page of {0} by {1} px is too large for a PDF, which has at most {2} px a side; make the chart smaller"},
     {35006, "the library libpng failed: {0}"},
+    {35007,
+     "the page has more shapes and texts than the PDF of a page can be made of in 1 GiB of memory; draw fewer, or "
+     "write "
+     "an SVG or a PNG"},
 
     // The program.
     {35100, "there is not enough memory"},
