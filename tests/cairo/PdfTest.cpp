@@ -1,7 +1,9 @@
+#include <cmath>
 #include <regex>
 
 #include "tests/cairo/CairoTesting.h"
 #include "vexa/support/core/Exception.h"
+#include "vexa/surfaces/cairo/PageRecord.h"
 #include "vexa/surfaces/cairo/PdfCatalog.h"
 
 namespace VEXA {
@@ -136,6 +138,46 @@ TEST(PdfLimits, PageSize) {
     EXPECT_EQ(codeFor({19'200, 10}), 0) << "200 inches";
     EXPECT_EQ(codeFor({10, 19'201}), 35005);
     for (const float side : {0.0F, -5.0F, kNaN, kInfinity}) EXPECT_EQ(codeFor({side, 10}), 35000);
+}
+
+TEST(PdfLimits, APageThatIsTooFull) {
+    constexpr double kCornersAtMost = (Limits::kPdfBytes - PageRecord::kOperation) / PageRecord::kCorner;
+    const auto stream = make<IO::MemoryStream>();
+    const auto surface = CairoSurface::pdf(stream);
+    const auto tooMany = PathCommand::polygon(Vector<PointF>(static_cast<std::size_t>(kCornersAtMost) + 1), true);
+    const auto draw = [&](auto& c) { c.drawPath(tooMany); };
+    try {
+        drawPage(*surface, painted(solid(0xFF0000), nullptr, draw), {100, 100});
+        ADD_FAILURE();
+    } catch (const Exception& exception) {
+        EXPECT_EQ(exception.getCode(), 35007);
+    }
+    drawPage(*surface, painted(nullptr, nullptr, draw), {100, 100});
+    EXPECT_GT(stream->bytes().size(), 0U) << "nothing that is painted is nothing that is kept";
+}
+
+TEST(PdfLimits, WhatAPageIsMadeOfCounts) {
+    const auto polygon = PathCommand::polygon(Vector<PointF>(8), true);
+    const SmartPtr<Brush> gradient = redToBlue();
+    const struct {
+        void (*add)(PageRecord&, const Path&, const Paint& gradient);
+        double bytes;
+        const char* why;
+    } cases[] = {
+        {[](auto& r, auto& p, auto&) { r.addShape(p, {.opacity = 1}); }, 1200 + 8 * 100, "corners of an area"},
+        {[](auto& r, auto& p, auto& g) { r.addShape(p, g); }, 1200 + 8 * 100 + 2 * 200, "stops of its gradient"},
+        {[](auto& r, auto&, auto&) { r.addGlyphs(28); }, 1200 + 28 * 100, "glyphs of a text"},
+        {[](auto& r, auto&, auto&) { r.addPicture(); }, 4 * 1200, "an emoji"},
+    };
+    for (const auto& c : cases) {
+        PageRecord record;
+        const Paint paint = resolvePaint(gradient.get());
+        const double fits = std::floor(Limits::kPdfBytes / c.bytes);
+        for (double i = 0; i < fits; ++i) c.add(record, *polygon, paint);
+        EXPECT_THROW(c.add(record, *polygon, paint), Exception) << c.why;
+        record.renew();
+        EXPECT_NO_THROW(c.add(record, *polygon, paint)) << c.why;
+    }
 }
 
 /// Takes no bytes.

@@ -81,6 +81,25 @@ TEST(Gradient, HrefToNoneOfItsKindGivesNothingThenNoStops) {
     }
 }
 
+TEST(Gradient, WithoutStopsIsToldOnceAndOnlyIfAskedFor) {
+    const struct {
+        const char *gradients, *told, *why;
+    } cases[] = {
+        {"<linear-gradient id='g'/>", "34132@5:1", "none of its own"},
+        {"<linear-gradient id='g' href='#m'/><linear-gradient id='m' href='#l'/>", "34132@5:1", "two steps away"},
+        {"<radial-gradient id='g' href='#g'/>", "34132@5:1", "a loop"},
+        {"<linear-gradient id='g' href='#m'><stop/></linear-gradient><linear-gradient id='m'/>", "34132@5:1",
+         "its own ones do not count"},
+        {"<linear-gradient id='g' href='#l'/><linear-gradient id='m'/>", "", "borrowed; nobody asks for the other one"},
+    };
+    for (const auto& c : cases) {
+        const CapturedLog log;
+        const auto root = definitions("\n" + std::string(c.gradients));
+        for (const ColorAspect aspect : {Normal, Lighter, Darker}) EXPECT_FALSE(brushOf(*root, "#g", aspect).isEmpty());
+        EXPECT_EQ(log.told(), c.told) << c.why;
+    }
+}
+
 TEST(Gradient, ReferencesFindDefinitionsOnly) {
     const auto root = load(rootWith("id='top'", R"(<defs id="d"><linear-gradient id="a"/><radial-gradient id="a"/>
         <radial-gradient/></defs><spider id="body"/><defs><radial-gradient id="a"/><radial-gradient id="b"/></defs>)"));

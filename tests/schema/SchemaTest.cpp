@@ -61,7 +61,8 @@ TEST(Schema, TakesWhatTheEngineTakesSilently) {
          "styling on a chart, which hands it on"},
         {plot("<bar-chart><serie marker='square' caption-placement='inside-end'/></bar-chart>"), "on a series"},
         {page("<defs font-size='1in' stroke='#123'/>"), "on definitions"},
-        {page("<defs><linear-gradient id='g'/></defs><pie><slice value='1' caption='' fill=' url( \"#g\" ) '/></pie>"),
+        {page("<defs><linear-gradient id='g'><stop/></linear-gradient></defs><pie><slice value='1' caption='' fill=' "
+              "url( \"#g\" ) '/></pie>"),
          "a reference to a gradient, with quotes and blanks"},
         {page("<defs><linear-gradient gradientTransform=' '/><linear-gradient/><radial-gradient/></defs>"),
          "gradients without a name"},

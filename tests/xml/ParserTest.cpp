@@ -364,6 +364,28 @@ TEST(Limits, Nesting) {
     EXPECT_EQ(codeOf(box("<z>" + repeat("<box>", Limits::kNestingDepth))), 3010) << "skipped elements count";
 }
 
+// Each level of a recursion would take some hundred bytes of a stack of 8 MB.
+TEST(Tree, OfAnyDepthIsFreedAtOnce) {
+    registerLibrary();
+    constexpr int kDepth = 1'000'000;
+    auto top = make<Box>();
+    SmartPtr<Box> open = top;
+    for (int level = 0; level < kDepth; ++level) {
+        auto inner = make<Box>();
+        inner->setParent(open.get());
+        if (level % 2 == 0) {
+            open->items.add(inner);
+        } else {
+            open->label = inner;
+        }
+        open = inner;
+    }
+    EXPECT_NE(open->getParent(), nullptr);
+    top = nullptr;
+    EXPECT_EQ(open->getParent(), nullptr) << "all above the one that is held are gone";
+    EXPECT_EQ(open->referenceCount(), 1U);
+}
+
 TEST(Limits, Attributes) {
     const auto many = [](std::size_t count, const char* prefix) {
         std::string attributes;

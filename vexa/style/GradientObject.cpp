@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kOtherKind = 34003;
 constexpr int kTooManyStops = 34004;
+constexpr int kNoStops = 34132;
 
 }  // namespace
 
@@ -21,6 +22,7 @@ SmartPtr<Brush> GradientObject::getBrush(ColorAspect aspect, float amount) {
     lighterBrush_ = makeBrush();
     const SmartPtr<GradientObject> source = findStopSource();
     if (source.isEmpty()) return nullptr;
+    if (source->stops_.isEmpty()) Log::warning(kNoStops, {quoteForMessage(source->getId())}, getPlace());
     const ShadedStops& stops = source->shadeStops(amount);
     normalBrush_->shareStops(stops.normal);
     darkerBrush_->shareStops(stops.darker);

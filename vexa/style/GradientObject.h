@@ -12,8 +12,8 @@ class GradientObject : public VexaElementObject, public GradientDefinition {
 public:
     /// The first call makes the brushes of all three aspects, with its amount; later ones get the same brushes.
     /// A gradient with an `href` has the own stops of the gradient of its kind that it names (one step, no further),
-    /// and keeps geometry, units, spread and transform to itself. Where the `href` leads to none of its kind: a
-    /// warning, an empty result, and from then on brushes without stops.
+    /// and keeps geometry, units, spread and transform to itself. Without stops: a warning, and brushes without stops.
+    /// Where the `href` leads to none of its kind: a warning, an empty result, and from then on brushes without stops.
     SmartPtr<Brush> getBrush(ColorAspect aspect, float amount) override;
 
     /// Paints nothing.

@@ -66,6 +66,9 @@ inline constexpr int kRasterSide = 32'767;
 inline constexpr double kRasterBytes = 1'073'741'824;
 /// Largest side of a page of a PDF, in px: 200 inches, beyond which viewers refuse it. Test: PdfLimits.PageSize
 inline constexpr float kPdfSide = 19'200.0F;
+/// Bytes that a page of a PDF takes until it ends, see PageRecord. A million grid lines of a document of 9 KB take one
+/// such GiB, a million bars in 3-D would take eight. Test: PdfLimits.APageThatIsTooFull
+inline constexpr double kPdfBytes = 1'073'741'824;
 /// Dashes of one outline, and of all of a page; each is a shape for cairo, and a pattern of 1e-6 px over 1000 px would
 /// be 1e9 of them. Longer patterns take their place. Test: CairoSurface.DashesAreBounded
 inline constexpr double kDashes = 100'000;

@@ -189,6 +189,9 @@ constexpr Message kMessages[] = {
     {34130, R"(the line of this series has no stroke, nothing of it shows; write a "stroke")"},
     {34131, R"({0} captions of the pie would lie over others and are left out; make it larger, or write a smaller )"
             R"("font-size")"},
+    {34132,
+     R"(nothing shows of what is painted with this gradient, "{0}" has no stops of its own; give it a "stop", or )"
+     R"(write the "href" of a gradient that has some)"},
     {34133,
      R"(data points outside the "{1}", which goes from {2} to {3}, do not show or are cut, {0} in all, this one first; )"
      R"(leave "min" and "max" out, or make room for them)"},
@@ -206,6 +209,10 @@ constexpr Message kMessages[] = {
     {35004, R"(the font "{0}" was measured but cannot be drawn with; take another font)"},
     {35005, "a page of {0} by {1} px is too large for a PDF, which has at most {2} px a side; make the chart smaller"},
     {35006, "the library libpng failed: {0}"},
+    {35007,
+     "the page has more shapes and texts than the PDF of a page can be made of in 1 GiB of memory; draw fewer, or "
+     "write "
+     "an SVG or a PNG"},
 
     // The program.
     {35100, "there is not enough memory"},

@@ -1,6 +1,7 @@
 #include "vexa/support/xml/XmlObject.h"
 
 #include <new>
+#include <utility>
 
 #include "vexa/support/xml/ElementPool.h"
 #include "vexa/support/xml/XmlObjectFactory.h"
@@ -24,12 +25,35 @@ public:
     XmlObjectTypeInfo* getParentTypeInfo() const override { return nullptr; }
 };
 
+// The objects that wait until the one being freed on this thread is gone, linked by their parents: a tree of any depth
+// is freed without recursion.
+thread_local bool isFreeing = false;
+thread_local XmlObject* waiting = nullptr;
+
 }  // namespace
 
 XmlObject::XmlObject() noexcept : pooledSize_(static_cast<std::uint32_t>(ElementPool::sizeIfLast(this))) {}
 
+// An object without children frees nothing that could free the next one in turn.
 void XmlObject::OnFinalRelease() {
-    if (const XmlObjectTypeInfo* const info = getTypeInfo(); info->hasChildren()) info->orphanChildren(*this);
+    const XmlObjectTypeInfo* const info = getTypeInfo();
+    if (!info->hasChildren()) return destroy();
+    info->orphanChildren(*this);
+    if (isFreeing) {
+        parent_ = std::exchange(waiting, this);
+        return;
+    }
+    isFreeing = true;
+    destroy();
+    while (waiting != nullptr) {
+        XmlObject* const next = waiting;
+        waiting = std::exchange(next->parent_, nullptr);
+        next->destroy();
+    }
+    isFreeing = false;
+}
+
+void XmlObject::destroy() noexcept {
     const std::size_t pooledSize = pooledSize_;
     this->~XmlObject();
     if (pooledSize != 0) {

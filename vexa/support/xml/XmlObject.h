@@ -55,6 +55,8 @@ public:
     static void operator delete(void* memory, std::size_t size) noexcept;
 
 private:
+    void destroy() noexcept;
+
     std::uint32_t line_ = 0;
     std::uint32_t column_ = 0;
     std::uint32_t pooledSize_;  // bytes taken from a pool, 0 when from elsewhere

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vexa/surfaces/cairo/GlyphPainter.h"
+#include "vexa/surfaces/cairo/PageRecord.h"
 
 namespace VEXA {
 
@@ -9,7 +10,7 @@ struct CairoCanvas {
     cairo_t* context = nullptr;      ///< its matrix is the identity
     double scale = 1;                ///< units of the page to the px
     GlyphPainter* glyphs = nullptr;  ///< how text comes to the page
-    bool isRaster = false;           ///< it consists of pixels
+    PageRecord* record = nullptr;    ///< of a page that is written when it ends; null for pixels
 };
 
 }  // namespace VEXA

@@ -11,7 +11,7 @@ void CairoPainter::begin(const CairoCanvas& canvas) {
     context_ = canvas.context;
     scale_ = canvas.scale;
     glyphs_ = canvas.glyphs;
-    isRaster_ = canvas.isRaster;
+    record_ = canvas.record;
     clips_.clear();
     dashes_.renew();
     cairo().set_fill_rule(context_, CAIRO_FILL_RULE_EVEN_ODD);
@@ -36,6 +36,10 @@ void CairoPainter::shape(const DrawingState& state, const Path& path) {
     Paint inside = resolvePaint(state.fill.get());
     Paint outline = resolvePaint(state.stroke.get());
     if (path.isEmpty() || !(inside.paints() || outline.paints())) return;
+    if (record_ != nullptr) {
+        record_->addShape(path, inside);
+        record_->addShape(path, outline);
+    }
     cairo_matrix_t matrix;
     if (!enter(state, matrix) || !makeCurrentPath(context_, path, matrix)) return;
     PathBox box;
@@ -76,7 +80,7 @@ void CairoPainter::stroke(const Stroke& stroke, const Paint& paint, const Path& 
     static constexpr cairo_matrix_t kIdentity{1, 0, 0, 1, 0, 0};
     setSource(context_, paint, box, matrix);
     const StrokeStyle style(stroke, path, matrix, dashes_);
-    if (isRaster_ && isLongPolyline(path)) {
+    if (record_ == nullptr && isLongPolyline(path)) {
         strokeInPieces(context_, style, path, matrix);
         return;
     }

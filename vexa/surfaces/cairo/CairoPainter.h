@@ -35,7 +35,7 @@ private:
     cairo_t* context_ = nullptr;
     double scale_ = 1;
     GlyphPainter* glyphs_ = nullptr;
-    bool isRaster_ = false;
+    PageRecord* record_ = nullptr;  ///< null for pixels
     ClipStack clips_;
     DashBudget dashes_;
 };

@@ -62,10 +62,15 @@ void PdfGlyphs::paint(cairo_t* context, const PlacedRun& run, const cairo_matrix
 
 void PdfGlyphs::paintOutlines(cairo_t* context, const PlacedRun& run, const cairo_matrix_t& matrix) {
     const BorrowedFace face(*run.run->face);
-    for (const cairo_glyph_t& glyph : run.glyphs) {
-        const FT_Outline* const outline = outlineOf(face.get(), glyph.index);
-        if (outline != nullptr) fillOutline(context, *outline, glyphMatrix(face.get(), glyph, run.fontSize, matrix));
-    }
+    for (const cairo_glyph_t& glyph : run.glyphs) paintOutline(context, face.get(), glyph, run.fontSize, matrix);
+}
+
+void PdfGlyphs::paintOutline(cairo_t* context, FT_Face face, const cairo_glyph_t& glyph, double fontSize,
+                             const cairo_matrix_t& matrix) {
+    const FT_Outline* const outline = outlineOf(face, glyph.index);
+    if (outline == nullptr) return;
+    record_.addOutline(static_cast<std::size_t>(outline->n_points));
+    fillOutline(context, *outline, glyphMatrix(face, glyph, fontSize, matrix));
 }
 
 void PdfGlyphs::paintColored(cairo_t* context, const PlacedRun& run, const CairoClusters& text,
@@ -73,9 +78,11 @@ void PdfGlyphs::paintColored(cairo_t* context, const PlacedRun& run, const Cairo
     const SmartPtr<FontFace>& font = run.run->face;
     const BorrowedFace face(*font);
     for (const cairo_glyph_t& glyph : run.glyphs) {
-        if (colored_.paint(context, face.get(), font, glyph, run.fontSize, matrix, opacity)) continue;
-        const FT_Outline* const outline = outlineOf(face.get(), glyph.index);
-        if (outline != nullptr) fillOutline(context, *outline, glyphMatrix(face.get(), glyph, run.fontSize, matrix));
+        if (colored_.paint(context, face.get(), font, glyph, run.fontSize, matrix, opacity)) {
+            record_.addPicture();
+        } else {
+            paintOutline(context, face.get(), glyph, run.fontSize, matrix);
+        }
     }
     if (isScalable(run.fontSize, matrix)) showBlanks(context, run, text, matrix);
 }
@@ -102,6 +109,7 @@ void PdfGlyphs::showBlanks(cairo_t* context, const PlacedRun& run, const CairoCl
 void PdfGlyphs::showText(cairo_t* context, cairo_font_face_t* face, double fontSize, const cairo_matrix_t& matrix,
                          const CairoClusters& text, const Vector<cairo_glyph_t>& glyphs) {
     static constexpr cairo_matrix_t kIdentity{1, 0, 0, 1, 0, 0};
+    record_.addGlyphs(glyphs.size());
     const CairoLibrary& library = cairo();
     const cairo_matrix_t size{fontSize, 0, 0, fontSize, 0, 0};
     const CairoPtr<cairo_font_options_t> options(library.font_options_create());

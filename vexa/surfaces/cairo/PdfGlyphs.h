@@ -4,6 +4,7 @@
 #include "vexa/surfaces/cairo/CairoClusters.h"
 #include "vexa/surfaces/cairo/ColorGlyphs.h"
 #include "vexa/surfaces/cairo/GlyphPainter.h"
+#include "vexa/surfaces/cairo/PageRecord.h"
 
 namespace VEXA {
 
@@ -11,16 +12,22 @@ namespace VEXA {
 /// characters lie on them.
 class PdfGlyphs final : public GlyphPainter {
 public:
+    /// REQUIRES: the record stays as long as this.
+    explicit PdfGlyphs(PageRecord& record) noexcept : record_(record) {}
+
     void paint(cairo_t* context, const PlacedRun& run, const cairo_matrix_t& matrix, double opacity) override;
 
 private:
-    static void paintOutlines(cairo_t* context, const PlacedRun& run, const cairo_matrix_t& matrix);
+    void paintOutlines(cairo_t* context, const PlacedRun& run, const cairo_matrix_t& matrix);
+    void paintOutline(cairo_t* context, FT_Face face, const cairo_glyph_t& glyph, double fontSize,
+                      const cairo_matrix_t& matrix);
     void paintColored(cairo_t* context, const PlacedRun& run, const CairoClusters& text, const cairo_matrix_t& matrix,
                       double opacity);
     void showBlanks(cairo_t* context, const PlacedRun& run, const CairoClusters& text, const cairo_matrix_t& matrix);
-    static void showText(cairo_t* context, cairo_font_face_t* face, double fontSize, const cairo_matrix_t& matrix,
-                         const CairoClusters& text, const Vector<cairo_glyph_t>& glyphs);
+    void showText(cairo_t* context, cairo_font_face_t* face, double fontSize, const cairo_matrix_t& matrix,
+                  const CairoClusters& text, const Vector<cairo_glyph_t>& glyphs);
 
+    PageRecord& record_;
     ColorGlyphs colored_{true};
     BlankGlyphs blanks_;
 };

@@ -37,9 +37,10 @@ CairoCanvas PdfPages::beginPage(const SizeF& size) {
     if (context_ != nullptr) {
         raise(UnreacheableCodeException("a page was begun before the last one ended"), "CairoSurface", __LINE__);
     }
+    record_.renew();
     startPage(size.width * kPointsPerPixel, size.height * kPointsPerPixel);
     if (options_.background) paintBackground(context_.get(), *options_.background);
-    return {context_.get(), kPointsPerPixel, &glyphs_, false};
+    return {context_.get(), kPointsPerPixel, &glyphs_, &record_};
 }
 
 void PdfPages::startPage(double width, double height) {

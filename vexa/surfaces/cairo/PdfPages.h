@@ -4,6 +4,7 @@
 
 #include "vexa/surfaces/cairo/CairoPages.h"
 #include "vexa/surfaces/cairo/CairoSurface.h"
+#include "vexa/surfaces/cairo/PageRecord.h"
 #include "vexa/surfaces/cairo/PdfGlyphs.h"
 
 namespace VEXA {
@@ -37,7 +38,8 @@ private:
     File file_;
     CairoPtr<cairo_surface_t> surface_;
     CairoPtr<cairo_t> context_;  ///< of the page that is open
-    PdfGlyphs glyphs_;
+    PageRecord record_;
+    PdfGlyphs glyphs_{record_};
     DocumentInfo info_;
     bool hasPages_ = false;
 };

@@ -35,7 +35,7 @@ CairoCanvas PngPage::beginPage(const SizeF& size) {
     context_.reset(cairo().create(image_.get()));
     glyphs_.emplace(size_.width, size_.height);
     if (options_.background) paintBackground(context_.get(), *options_.background);
-    return {context_.get(), options_.scale, &*glyphs_, true};
+    return {context_.get(), options_.scale, &*glyphs_, nullptr};
 }
 
 void PngPage::endPage() { context_.reset(); }

@@ -1,4 +1,4 @@
-#include "tests/sweeps/AmplifyingDocuments.h"
+#include "tests/sweeps/Attacks.h"
 
 namespace VEXA::Testing {
 namespace {
@@ -35,7 +35,7 @@ std::string gradient(int stops) {
            "</linear-gradient></defs>";
 }
 
-const AmplifyingDocument kDocuments[] = {
+const Attack kAttacks[] = {
     {"AMarkerAndACaptionForEveryPoint",
      [] {
          return page(
@@ -121,6 +121,6 @@ const AmplifyingDocument kDocuments[] = {
 
 }  // namespace
 
-std::span<const AmplifyingDocument> amplifyingDocuments() noexcept { return kDocuments; }
+std::span<const Attack> attacks() { return kAttacks; }
 
 }  // namespace VEXA::Testing
