@@ -19,15 +19,11 @@ public:
 
 void warnAbout(const char* name, SourcePlace place = {}) { Log::warning(2001, {String(name)}, place); }
 
-TEST(Exception, TellsItsMessage) {
-    const Exception e(2029, {String("VexaObject")});
-    EXPECT_EQ(e.getCode(), 2029);
-    EXPECT_STREQ(e.what(), "the abstract class VexaObject was instantiated; make an object of one of its descendants");
+TEST(Exception, TellsItsMessageAndIsLoggedWhenRaised) {
+    EXPECT_STREQ(Exception(2029, {String("Item")}).what(),
+                 "the abstract class Item was instantiated; make an object of one of its descendants");
     EXPECT_STREQ(UnreacheableCodeException("grouping \xC3\xA4{0}").what(), "grouping \xC3\xA4{0}") << "UTF-8, as given";
     EXPECT_STREQ(Exception(12345).what(), "message number 12345") << "an unknown number still says something";
-}
-
-TEST(Exception, IsLoggedWhenRaised) {
     Recorder recorder;
     const LogScope scope(recorder);
     try {
@@ -41,11 +37,8 @@ TEST(Exception, IsLoggedWhenRaised) {
     EXPECT_EQ(recorder.last.severity, Severity::Error);
     EXPECT_EQ(recorder.last.code, 2001);
     EXPECT_EQ(recorder.last.place, (SourcePlace{7, 31}));
-    try {
-        raise(Exception(2002).setPlace({3, 4}), "VexaRoot", 1);
-    } catch (const Exception& e) {
-        EXPECT_EQ(e.getPlace(), (SourcePlace{3, 4})) << "a place that was set before stays";
-    }
+    EXPECT_THROW(raise(Exception(2002).setPlace({3, 4}), "VexaRoot", 1), Exception);
+    EXPECT_EQ(recorder.last.place, (SourcePlace{3, 4})) << "a place that was set before stays";
 }
 
 TEST(Log, WritesWarningsToStandardError) {
