@@ -29,8 +29,7 @@ public:
 
 SmartPtr<Brush> black() { return make<SolidColorBrush>(make<RGBColor>(0, 0, 0)); }
 
-class RenderContextTest : public testing::Test {
-protected:
+struct RenderContextTest : testing::Test {
     SmartPtr<PathRecorder> surface = make<PathRecorder>();
 };
 

