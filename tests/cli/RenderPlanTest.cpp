@@ -36,7 +36,6 @@ TEST(RenderPlan, RefusesWhatCannotBeCarriedOut) {
         {{{"a.xml", "b.xml"}, "a.svg", "", "", 0}, "a file of svg holds one document", "two pictures in one file"},
         {{{"a.xml", "-"}, "", "out", "", 0}, "standard input", "no name to make one of"},
         {{{"a.xml"}, "a.gif", "", "", 0}, "cannot write \"gif\"; the formats are svg, json", "named by the file"},
-        {{{"a.xml"}, "a.svg", "", "gif", 0}, "cannot write \"gif\"; the formats are svg, json", "named by --to"},
         {{{"a.xml"}, "a.svg", "", "", 0, "2"}, "--scale is for png, and the format here is svg", "no pixels"},
         {{{"a.xml"}, "a", "", "json", 0, {}, "300"}, "--dpi is for png, and the format here is json", "no pixels"},
         {{{"a.xml"}, "a.svg", "", "", 0, {}, {}, "red"}, "--background is for png and pdf", "the root has a fill"},

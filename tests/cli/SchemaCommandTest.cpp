@@ -11,7 +11,6 @@ TEST(SchemaCommand, PrintsTheFormatThatIsAskedFor) {
     const std::tuple<const char*, ExitStatus, const char*, const char*> cases[] = {
         {"xsd", kDone, "<?xml ", "<xs:element name=\"root\""},
         {"markdown", kDone, "", "\n# Reference"},
-        {"rnc", kWrongUsage, "vexa schema: ", "xsd or markdown"},
         {"", kWrongUsage, "vexa schema: ", "xsd or markdown"},
         {"\x1b[31m", kWrongUsage, "vexa schema: the format \"\\", "xsd or markdown"},
     };
