@@ -82,7 +82,6 @@ TEST(Format, ReadsReals) {
     const std::tuple<std::string, std::optional<double>, const char*> cases[] = {
         {"-.5", -0.5, "no digit before the point"},
         {"+2.5e3", 2500.0, "a plus, which from_chars refuses"},
-        {"1E+2", 100.0, "capital exponent"},
         {"1" + zeros + "e-400", 1.0, "long, but in range"},
         {"1" + zeros + "e-50", std::nullopt, "too large in spite of its exponent"},
         {"0." + zeros + "1e50", 0.0, "too small in spite of it"},
@@ -93,7 +92,6 @@ TEST(Format, ReadsReals) {
         {"0e999", 0.0, "zero, whatever the exponent"},
         {"", std::nullopt, "nothing"},
         {"+-1", std::nullopt, "two signs"},
-        {" 1", std::nullopt, "the whole text: the caller trims"},
         {"-inf", std::nullopt, "not finite"},
         {std::string("1\0", 2), std::nullopt, "NUL is a character like any other"},
     };

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <thread>
 #include <tuple>
 #include <unordered_set>
 
@@ -101,17 +100,6 @@ TEST(String, OwnsItsTextAlone) {
     const String fixed(&twoLetters.header);
     EXPECT_EQ(String(fixed), String("ok"));
     EXPECT_EQ(twoLetters.header.references.load(), StringData::kImmortal) << "a static text is not counted";
-}
-
-TEST(String, CountsOwnersAcrossThreads) {
-    const String shared("freed once, by the last of its owners");
-    const auto copyOften = [&shared] {
-        for (int i = 0; i < 20'000; ++i) EXPECT_EQ(String(shared).length(), 37U);
-    };
-    std::thread other(copyOften);
-    copyOften();
-    other.join();
-    EXPECT_EQ(shared.view().substr(0, 5), U"freed");
 }
 
 }  // namespace

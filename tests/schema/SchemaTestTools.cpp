@@ -1,10 +1,6 @@
 #include "tests/schema/SchemaTestTools.h"
 
-#include <stdlib.h>
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <cstdio>
 
 #include "vexa/engine/VexaEngine.h"
 #include "vexa/schema/MarkupText.h"
@@ -14,8 +10,6 @@
 
 namespace VEXA::Testing {
 namespace {
-
-namespace fs = std::filesystem;
 
 class LineLog final : public LogSink {
 public:
@@ -34,23 +28,14 @@ std::string outputOf(const std::string& command) {
 
 }  // namespace
 
-std::string contentOf(const std::string& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 std::vector<Verdict> validate(const std::vector<std::string>& documents) {
-    std::string directory = (fs::temp_directory_path() / "vexa-schema-XXXXXX").string();
-    if (::mkdtemp(directory.data()) == nullptr) return {};
-    const auto file = [&](std::size_t i) { return directory + "/" + std::to_string(i) + ".xml"; };
-    std::ofstream(directory + "/vexa.xsd", std::ios::binary) << makeXmlSchema();
-    std::string command = "xmllint --noout --schema " + directory + "/vexa.xsd";
+    const TestDirectory directory;
+    const auto file = [&](std::size_t i) { return directory.path(std::to_string(i) + ".xml"); };
+    std::string command = "xmllint --noout --schema " + directory.write("vexa.xsd", makeXmlSchema());
     for (std::size_t i = 0; i < documents.size(); ++i) {
-        std::ofstream(file(i), std::ios::binary) << documents[i];
-        command += " " + file(i);
+        command += " " + directory.write(std::to_string(i) + ".xml", documents[i]);
     }
     const std::string told = outputOf(command + " 2>&1");
-    fs::remove_all(directory);
 
     std::vector<Verdict> verdicts(documents.size());
     std::size_t at = 0;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/TestDirectory.h"
 #include "vexa/schema/Vocabulary.h"
 
 namespace VEXA::Testing {
@@ -24,7 +25,5 @@ std::string quotedAttribute(const std::string& text);
 
 /// A whole document around an element of that name, with the elements that must stand beside it.
 std::string documentAround(const Vocabulary& vocabulary, std::string_view name, const std::string& element);
-
-std::string contentOf(const std::string& file);
 
 }  // namespace VEXA::Testing

@@ -2,19 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "tests/TestDirectory.h"
 #include "tests/surfaces/SurfaceTesting.h"
 
 namespace VEXA {
 namespace {
 
 TEST(DisplayListSurface, TheExampleOfItsPageIsWhatItWrites) {
-    std::ifstream file(VEXA_SOURCE_DIR "/docs/display-list.md");
-    std::ostringstream page;
-    page << file.rdbuf();
+    const std::string page = Testing::contentOf(VEXA_SOURCE_DIR "/docs/display-list.md");
     EXPECT_EQ(documentOf<DisplayListSurface>([](RenderContext& c) {
                   c.setFill(solid(0xFFFFFF));
                   c.drawRectangle(0, 0, 200, 100, 0, 0);
@@ -25,7 +23,7 @@ TEST(DisplayListSurface, TheExampleOfItsPageIsWhatItWrites) {
                   c.setFont(fontOf("sans-serif", 12));
                   c.drawText("Total", 5, 0, 95, 0, 0);
               }),
-              between(page.str(), "```json\n", "```"));
+              between(page, "```json\n", "```"));
 }
 
 SmartPtr<Stroke> dashedPen() {

@@ -26,7 +26,6 @@ TEST(Suggestion, GuessesTheValueThatWasMeant) {
         {suggested<float>, "1,000", "1000", "three digits behind a comma: thousands"},
         {suggested<float>, "1,234,567.5", "1234567.5", "several commas separate thousands"},
         {suggested<Length>, "12em", "", "a unit that there is not: the message lists them"},
-        {suggested<LengthOrPercent>, "50 %", "50%", "a blank before the sign"},
         {suggested<SmartPtr<Color>>, "ligthblue", "lightblue", "swapped letters"},
         {suggested<SNullableColor>, "ff8000", "#ff8000", "no # in front"},
         {suggested<SColor>, "Light Blue", "lightblue", "two words"},
@@ -35,7 +34,6 @@ TEST(Suggestion, GuessesTheValueThatWasMeant) {
         {suggested<DisplayValPlacement>, "between ticks", "between-ticks", "as people write it"},
         {suggested<AxisUnits>, "month", "months", "one month"},
         {suggested<bool>, "True", "true", "as other languages write it"},
-        {suggested<bool>, "yes", "", "the message says what to write"},
     };
     for (const auto& c : cases) EXPECT_EQ(c.suggest(c.text), c.expected) << c.text << ": " << c.why;
     EXPECT_EQ(suggested<Length>(std::string(100'000, '1').append(" px").c_str()), "") << "no one meant that";
@@ -54,7 +52,6 @@ TEST(Suggestion, ReadsDatesInLocalForms) {
         {"05.03.24", "", "of which century?"},
         {"1.2.3.2024", "", "four numbers"},
         {"05.03/2024", "", "two marks"},
-        {"May 2024", "", "words"},
     };
     for (const auto& c : cases) EXPECT_EQ(suggestDate(c.text), c.expected) << c.text << ": " << c.why;
 }
