@@ -29,18 +29,15 @@ std::vector<std::pair<std::string, const AttributeEntry*>> allAttributes(const V
     return all;
 }
 
-std::set<std::string_view> typeTitles(const Vocabulary& vocabulary) {
-    std::set<std::string_view> titles;
-    for (const auto& [place, attribute] : allAttributes(vocabulary)) titles.insert(titleOf(*attribute->type));
-    return titles;
-}
-
 TEST(Notes, EveryAttributeHasOneAndEveryNoteHasItsAttribute) {
     const Vocabulary vocabulary = Vocabulary::ofCharts();
-    for (const auto& [place, attribute] : allAttributes(vocabulary)) EXPECT_FALSE(attribute->note.empty()) << place;
+    std::set<std::string_view> titles;
+    for (const auto& [place, attribute] : allAttributes(vocabulary)) {
+        EXPECT_FALSE(attribute->note.empty()) << place;
+        titles.insert(titleOf(*attribute->type));
+    }
     for (const ElementEntry& element : vocabulary.elements()) EXPECT_NE(element.notes, nullptr) << element.name;
 
-    const std::set<std::string_view> titles = typeTitles(vocabulary);
     for (const NoteChapter& chapter : vocabulary.chapters()) {
         std::set<std::string_view> names;
         for (const NoteSection& section : chapter.sections) {

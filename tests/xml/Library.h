@@ -13,7 +13,7 @@ namespace VEXA::Testing {
 inline constexpr XmlNamespace kLibrary{"urn:library", "lib"};
 
 /// What the parser did, in order.
-inline thread_local std::vector<std::string> events;
+inline thread_local std::string events;
 
 class Item : public XmlObject {
 public:
@@ -34,13 +34,13 @@ public:
     virtual void beConcrete() const = 0;
     void initialize(SmartPtr<XmlObject> parent, SaxParserContext& context) override {
         XmlObject::initialize(parent, context);
-        events.push_back("initialize, name " + name->toUtf8());
+        events += "initialize, name " + name->toUtf8() + "; ";
     }
-    void finalize(SaxParserContext&) override { events.push_back("finalize " + name->toUtf8()); }
+    void finalize(SaxParserContext&) override { events += "finalize " + name->toUtf8() + "; "; }
     void handleUnrecognizedAttribute(const String& attribute, const String& uri, const String& value) override {
-        events.push_back("unrecognized " + uri.toUtf8() + "|" + attribute.toUtf8() + "=" + value.toUtf8());
+        events += "unrecognized " + uri.toUtf8() + "|" + attribute.toUtf8() + "=" + value.toUtf8() + "; ";
     }
-    void addText(String text) override { events.push_back("text " + text.toUtf8()); }
+    void addText(String text) override { events += "text " + text.toUtf8() + "; "; }
 
     TXmlAttribute<String> name{DefaultStringAttribute};
 };
@@ -127,17 +127,19 @@ private:
     std::size_t at_ = 0;
 };
 
-/// Keeps what it is told, each problem as "line:column: severity code".
+/// Keeps what it is told, each problem as "line:column: severity code; ", and the last message.
 class Collector final : public ISAXParserMonitor, public LogSink {
 public:
     void report(const LogRecord& record) override { write(record); }
     void write(const LogRecord& record) override {
-        records.push_back(record);
-        lines.push_back(std::to_string(record.place.line) + ":" + std::to_string(record.place.column) + ": " +
-                        (record.severity == Severity::Error ? "error " : "warning ") + std::to_string(record.code));
+        ++count;
+        message = record.message.toUtf8();
+        problems += std::to_string(record.place.line) + ":" + std::to_string(record.place.column) + ": " +
+                    (record.severity == Severity::Error ? "error " : "warning ") + std::to_string(record.code) + "; ";
     }
-    std::vector<std::string> lines;
-    std::vector<LogRecord> records;
+    std::size_t count = 0;
+    std::string problems;
+    std::string message;
 };
 
 struct ReadOptions {
@@ -162,19 +164,12 @@ inline XmlObjPtr<XmlObject> read(const std::string& document, const ReadOptions&
     return readFrom(SmartPtr<IO::Stream>(new IO::MemoryStream(document)), options);
 }
 
-/// What the parser tells a monitor, each problem as "line:column: severity code; ", and the last message.
-struct Told {
-    std::string problems;
-    std::string message;
-};
-inline Told told(const std::string& document, ReadOptions options = {}) {
+/// What the parser tells a monitor.
+inline Collector told(const std::string& document, ReadOptions options = {}) {
     Collector collector;
     options.monitor = &collector;
     read(document, options);
-    Told told;
-    for (const std::string& line : collector.lines) told.problems += line + "; ";
-    if (!collector.records.empty()) told.message = collector.records.back().message.toUtf8();
-    return told;
+    return collector;
 }
 
 /// A box with this content, in the library's namespace.
