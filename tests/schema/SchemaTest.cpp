@@ -5,8 +5,6 @@
 namespace VEXA::Testing {
 namespace {
 
-namespace fs = std::filesystem;
-
 struct Case {
     std::string document;
     const char* why;
@@ -15,15 +13,13 @@ struct Case {
 
 /// Whether the schema takes the documents (except those beyond it), and whether the engine complains of them.
 void expectJudged(const std::vector<Case>& cases, bool isValid, bool isToldByTheEngine) {
-    std::vector<std::string> documents;
-    for (const Case& row : cases) documents.push_back(row.document);
-    const std::vector<Verdict> verdicts = validate(documents);
-    for (std::size_t i = 0; i < documents.size(); ++i) {
-        const auto& [document, why, isBeyond] = cases[i];
-        EXPECT_EQ(verdicts[i].isValid, isValid || isBeyond) << why << '\n' << document << '\n' << verdicts[i].told;
+    std::vector<Judged> judged;
+    for (const auto& [document, why, isBeyond] : cases) {
+        judged.push_back({document, why, isValid || isBeyond});
         const std::string told = complaints(document);
         EXPECT_EQ(!told.empty(), isToldByTheEngine) << why << '\n' << document << '\n' << told;
     }
+    expectVerdicts(judged);
 }
 
 std::string page(const std::string& content) {
@@ -133,18 +129,14 @@ TEST(Schema, IsStricterThanTheEngineInAFewPoints) {
 }
 
 TEST(Schema, TakesEveryExample) {
-    std::vector<std::string> documents;
-    std::vector<std::string> names;
+    std::vector<Judged> examples;
     for (const char* folder : {"/examples", "/docs/examples", "/tests/engine/golden"}) {
-        for (const auto& entry : fs::directory_iterator(std::string(VEXA_SOURCE_DIR) + folder)) {
-            if (entry.path().extension() != ".xml") continue;
-            documents.push_back(contentOf(entry.path()));
-            names.push_back(entry.path());
+        for (const auto& entry : std::filesystem::directory_iterator(std::string(VEXA_SOURCE_DIR) + folder)) {
+            if (entry.path().extension() == ".xml") examples.push_back({contentOf(entry.path()), entry.path()});
         }
     }
-    EXPECT_GT(names.size(), 40U);
-    const std::vector<Verdict> verdicts = validate(documents);
-    for (std::size_t i = 0; i < names.size(); ++i) EXPECT_TRUE(verdicts[i].isValid) << names[i] << verdicts[i].told;
+    EXPECT_GT(examples.size(), 40U);
+    expectVerdicts(examples);
 }
 
 }  // namespace

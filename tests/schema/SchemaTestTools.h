@@ -10,12 +10,14 @@
 
 namespace VEXA::Testing {
 
-/// What an independent validator (xmllint) says of documents.
-struct Verdict {
-    bool isValid = false;
-    std::string told;  ///< the validator's words
+/// A document, what it shows, and whether the schema takes it.
+struct Judged {
+    std::string document;
+    std::string why;
+    bool isValid = true;
 };
-std::vector<Verdict> validate(const std::vector<std::string>& documents);
+/// Asks an independent validator, xmllint.
+void expectVerdicts(const std::vector<Judged>& cases);
 
 /// What the engine says while it reads and paints a document: warnings and the error that ends it, one a line.
 std::string complaints(const std::string& document);
