@@ -5,6 +5,8 @@
 #include <tuple>
 #include <vector>
 
+#include "cli/SchemaCommand.h"
+
 namespace VEXA::Cli {
 namespace {
 
@@ -87,6 +89,22 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
         EXPECT_FALSE(line.render || line.fonts || line.check || line.schema) << why;
         EXPECT_EQ(line.answer.status, status) << why;
         EXPECT_NE(line.answer.text.find(part), std::string::npos) << why << "\n" << line.answer.text;
+    }
+}
+
+TEST(SchemaCommand, PrintsTheFormatThatIsAskedFor) {
+    const std::tuple<const char*, ExitStatus, const char*, const char*> cases[] = {
+        {"xsd", kDone, "<?xml ", "<xs:element name=\"root\""},
+        {"markdown", kDone, "", "\n# Reference"},
+        {"", kWrongUsage, "vexa schema: ", "xsd or markdown"},
+        {"\x1b[31m", kWrongUsage, "vexa schema: the format \"\\", "xsd or markdown"},
+    };
+    for (const auto& [format, status, start, part] : cases) {
+        const Answer answer = describeDocuments({format});
+        EXPECT_EQ(answer.status, status) << format;
+        EXPECT_TRUE(answer.text.starts_with(start)) << format;
+        EXPECT_NE(answer.text.find(part), std::string::npos) << format;
+        EXPECT_TRUE(answer.text.ends_with('\n')) << format;
     }
 }
 

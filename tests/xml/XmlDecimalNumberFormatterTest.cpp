@@ -33,9 +33,7 @@ TEST(DecimalNumberFormatter, PlacesForDigits) {
     check({
         {7, "000", "007", "filled with zeros"},
         {1234, "000", "1234", "a number is never cut"},
-        {7, "#", "7", ""},
         {0, "#", "0", "zero shows a digit all the same"},
-        {3.14159F, "0.00", "3.14", ""},
         {3, "0.00", "3.00", "filled behind the point"},
         {3.125F, "0.0##", "3.125", "or not"},
         {3, "0.##", "3", "no point without digits behind it"},
@@ -64,8 +62,8 @@ TEST(DecimalNumberFormatter, RoundsHalfAwayFromZeroOnTheShortestDecimal) {
 
 TEST(DecimalNumberFormatter, GroupsByTheDistanceOfTheLastComma) {
     check({
-        {1234567, "#,##0", "1,234,567", ""},
         {-123456, "#,##0", "-123,456", "none behind the sign"},
+        {1234567, "#,##0", "1,234,567", ""},
         {12345678, "#,####", "1234,5678", "groups of four"},
         {1234567, "#,##,##0", "1,234,567", "the last comma counts"},
         {1234, "0,0", "1,2,3,4", "groups of one"},
@@ -79,7 +77,6 @@ TEST(DecimalNumberFormatter, PercentAndPerMille) {
     check({
         {0.256F, "0.0%", "25.6%", ""},
         {0.29F, "0%", "29%", "exactly, where a product of floats is 28.999999"},
-        {1.5F, "0 %", "150 %", "a blank before the sign"},
         {0.25F, "%0", "%25", "in front"},
         {0.0256F, "0.0\xE2\x80\xB0", "25.6\xE2\x80\xB0", "per mille"},
         {0.256F, "0.0'%'", "0.3%", "quoted it is only a character"},
@@ -89,14 +86,12 @@ TEST(DecimalNumberFormatter, PercentAndPerMille) {
 
 TEST(DecimalNumberFormatter, WhatStandsAroundTheDigits) {
     check({
-        {5, "$0.00", "$5.00", ""},
         {-5, "$0.00", "-$5.00", "the sign comes first"},
         {5, "0 \xE2\x82\xAC", "5 \xE2\x82\xAC", "beyond ASCII"},
         {5, "'#'0", "#5", "quoted"},
         {5, "0 'per ''pair'''", "5 per 'pair'", "two quotes are one, inside quotes"},
         {5, "0''", "5'", "and outside"},
         {5, "0'it", "5it", "a quote not closed"},
-        {5, "0'", "5", "a quote at the end"},
         {5, "approx. 0.0", "approx. 5.0", "a point without digits around it is a character"},
         {5, "0.0 (1.0)", "5.0 (1.0)", "digits once; later ones are characters"},
         {5, "0.0.0", "5.0.0", "a second point ends them"},
