@@ -5,11 +5,17 @@
 #include <string>
 
 #include "cli/Console.h"
+#include "cli/RenderPlan.h"
 #include "tests/TestDirectory.h"
 
 namespace VEXA::Cli {
 
 using Testing::TestDirectory;
+
+inline void expectProblem(const RenderOptions& options, const std::string& part) {
+    const std::string problem = planRender(options).problem;
+    EXPECT_NE(problem.find(part), std::string::npos) << "not \"" << part << "\" but: " << problem;
+}
 
 /// Keeps what the program tells people.
 class RecordingConsole final : public Console {
