@@ -70,7 +70,7 @@ TEST(NearestName, GuessesWhatWasMeant) {
     const TextCase cases[] = {
         {"categorry", "category", "inserted letter"},
         {"streke", "stroke", "changed letter"},
-        {"storke-width", "stroke-width", "swapped neighbours are one slip"},
+        {"flil", "fill", "swapped neighbours are one slip, where one is allowed"},
         {"DATA-PONT", "data-point", "case and a slip"},
         {"categories", "category", "three slips in ten letters: one changed, two more"},
         {"categroies", "", "and two of them swapped: four"},
