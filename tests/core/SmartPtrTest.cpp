@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "vexa/support/core/Exception.h"
+#include "vexa/support/core/String.h"
 
 namespace VEXA {
 namespace {
@@ -84,13 +85,15 @@ TEST(SmartPtr, LeavesImmortalObjectsUncounted) {
 
 TEST(SmartPtr, CountsAcrossThreads) {
     const SmartPtr<Probe> shared = make<Probe>();
-    const auto copyOften = [&shared] {
-        for (int i = 0; i < 20'000; ++i) EXPECT_FALSE(SmartPtr<Probe>(shared).isEmpty());
+    const String text("freed once, by the last of its owners");
+    const auto copyOften = [&] {
+        for (int i = 0; i < 20'000; ++i) EXPECT_FALSE(SmartPtr<Probe>(shared).isEmpty() || String(text).isEmpty());
     };
     std::thread other(copyOften);
     copyOften();
     other.join();
     EXPECT_EQ(shared->referenceCount(), 1U);
+    EXPECT_EQ(text.view().substr(0, 5), U"freed");
 }
 
 }  // namespace

@@ -9,9 +9,9 @@
 #include <csignal>
 #include <filesystem>
 #include <functional>
-#include <iterator>
 #include <thread>
 
+#include "tests/TestDirectory.h"
 #include "vexa/support/core/Exception.h"
 #include "vexa/support/core/FileDescriptor.h"
 
@@ -19,6 +19,7 @@ namespace VEXA::IO {
 namespace {
 
 namespace fs = std::filesystem;
+using Testing::contentOf;
 
 std::string readAll(Stream& stream) {
     std::string result;
@@ -27,25 +28,11 @@ std::string readAll(Stream& stream) {
     return result;
 }
 
-std::string contentOf(const fs::path& path) {
-    FileStream stream(path, FileStream::Mode::Read);
-    return readAll(stream);
-}
-
 /// A directory of its own for every test.
 class Files : public testing::Test {
 protected:
-    Files() {
-        std::string name = (fs::temp_directory_path() / "vexa-test-XXXXXX").string();
-        dir = ::mkdtemp(name.data());
-    }
-    ~Files() override { fs::remove_all(dir); }
-
-    std::size_t filesInside() const {
-        return static_cast<std::size_t>(std::distance(fs::directory_iterator(dir), fs::directory_iterator()));
-    }
-
-    fs::path dir;
+    const Testing::TestDirectory own;
+    const fs::path dir = own.path("");
 };
 
 /// The number of the exception; its message must name the file.
@@ -93,12 +80,16 @@ TEST_F(Files, FailuresNameTheFile) {
     EXPECT_EQ(codeOfFailure(missing, [&] { FileStream(missing, FileStream::Mode::Read); }), 1001);
     const fs::path below = missing / "x.svg";
     EXPECT_EQ(codeOfFailure(below, [&] { FileStream(below, FileStream::Mode::Write); }), 1002);
-    EXPECT_EQ(codeOfFailure(dir, [&] { contentOf(dir); }), 1003) << "a directory opens, but does not read";
+    const auto readDirectory = [&] {
+        FileStream stream(dir, FileStream::Mode::Read);
+        readAll(stream);
+    };
+    EXPECT_EQ(codeOfFailure(dir, readDirectory), 1003) << "a directory opens, but does not read";
     EXPECT_EQ(codeOfFailure("/dev/full", [] { FileStream("/dev/full", FileStream::Mode::Write).write("x"); }), 1004);
     const std::string cut = (dir / "a").string() + std::string("\0b", 2);
     EXPECT_THROW(FileStream(cut, FileStream::Mode::Write), Exception);
     EXPECT_THROW(writeWholeFile(cut, "x"), Exception);
-    EXPECT_EQ(filesInside(), 0U) << "no file \"a\" either: a name does not end at NUL";
+    EXPECT_EQ(own.entryCount(), 0U) << "no file \"a\" either: a name does not end at NUL";
 }
 
 TEST_F(Files, WritingReplacesWhatWasThere) {
@@ -107,8 +98,9 @@ TEST_F(Files, WritingReplacesWhatWasThere) {
     FileStream(path, FileStream::Mode::Write).write(std::string_view("the\0second", 10));
     EXPECT_EQ(contentOf(path), std::string("the\0second", 10)) << "a stream cuts what was there before";
     writeWholeFile(path, "third");
-    EXPECT_EQ(contentOf(path), "third");
-    EXPECT_EQ(filesInside(), 1U) << "nothing else is left";
+    FileStream stream(path, FileStream::Mode::Read);
+    EXPECT_EQ(readAll(stream), "third");
+    EXPECT_EQ(own.entryCount(), 1U) << "nothing else is left";
     writeWholeFile(path, "");
     EXPECT_EQ(contentOf(path), "") << "an empty file is a whole file";
 }
@@ -168,7 +160,7 @@ TEST_F(Files, WholeFileLeavesNothingWhenItFails) {
     fs::current_path(dir);
     EXPECT_EQ(codeOfWriting(""), 1005) << "written, but nowhere to put it";
     fs::current_path(before);
-    EXPECT_EQ(filesInside(), 1U) << "no temporary file stays behind";
+    EXPECT_EQ(own.entryCount(), 1U) << "no temporary file stays behind";
 }
 
 TEST_F(Files, WholeFileRespectsProtection) {

@@ -1,8 +1,8 @@
 #include "tests/regressions/RegressionDocuments.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
+
+#include "tests/TestDirectory.h"
 
 namespace VEXA::Testing {
 
@@ -12,8 +12,7 @@ namespace fs = std::filesystem;
 void addFolder(const fs::path& folder, std::vector<RegressionDocument>& out) {
     const bool isTree = folder.filename() == "fuzz_document_tree";
     for (const fs::directory_entry& file : fs::directory_iterator(folder)) {
-        std::ifstream in(file.path(), std::ios::binary);
-        std::string text{std::istreambuf_iterator<char>(in), {}};
+        std::string text = contentOf(file.path());
         if (isTree) text = Fuzz::documentOf(std::vector<std::uint8_t>(text.begin(), text.end()));
         out.push_back({file.path().string(), std::move(text)});
     }

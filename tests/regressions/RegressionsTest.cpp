@@ -2,6 +2,7 @@
 // surface each of them is painted, or refused with an error.
 
 #include "tests/regressions/RegressionDocuments.h"
+#include "tests/surfaces/SurfaceTesting.h"
 
 namespace VEXA::Testing {
 namespace {
@@ -17,37 +18,78 @@ TEST(Regressions, EveryDocumentIsPaintedOrRefusedOnEverySurface) {
     }
 }
 
+/// Every operation with `number` in each place that takes one, and `text` in each place that takes a text.
+void drawEverything(RenderContext& c, float number, const String& text) {
+    const SmartPtr<RenderContext> surface(&c);
+    for (int place = 0; place < 12; ++place) {
+        const auto at = [&](int i, float usual) { return i == place ? number : usual; };
+        const RenderContextScope scope(surface);
+        if (place == 1) c.setClip(PathCommand::ellipse(number, 0, 1, number));
+        if (place == 2) c.setClip(PathCommand::rectangle(number, 0, 1, number, 0, 0));
+        if (place == 3) c.addTranslateTransform(number, 1);
+        if (place == 4) c.addRotateTransform(number);
+        if (place == 5) c.addScaleTransform(1, number);
+        if (place >= 3 && place <= 5) c.setClip(PathCommand::rectangle(0, 0, 1, 1, 0, 0));
+        const SmartPtr<GradientBrush> gradient = redToBlue(GradientUnits(place % 2));
+        gradient->addStop(at(6, 1), colorOf(0), at(7, 1));
+        gradient->setOpacity(at(8, 1));
+        gradient->addMatrixTransform(at(9, 1), 0, 0, 1, 0, 0);
+        const SmartPtr<GradientBrush> radial =
+            make<RadialGradientBrush>(at(6, 5), at(7, 5), at(8, 5), at(9, 6), GradientUnits(), GradientSpreadMethod());
+        radial->setStops(gradient->getStops());
+        const SmartPtr<Stroke> stroke = make<Stroke>(radial, at(10, 2));
+        stroke->setDashArray({at(6, 1), 2});
+        stroke->setDashOffset(at(7, 1));
+        stroke->setMiterLimit(at(8, 3));
+        c.setFill(gradient);
+        c.setStroke(stroke);
+        c.setFont(fontOf(text, at(11, 12)));
+        c.drawLine(at(6, 0), at(7, 0), at(8, 1), at(9, 1));
+        c.drawRectangle(at(6, 0), at(7, 0), at(8, 1), at(9, 1), at(10, 0), at(11, 1));
+        c.drawEllipse(at(6, 0), at(7, 0), at(8, 1), at(9, 1));
+        c.drawPolygon({{at(6, 0), at(7, 0)}, {at(8, 1), at(9, 1)}, {5, 5}}, place % 2 == 0);
+        c.drawText(text, 1000, at(6, 0), at(7, 0), at(8, 0), 0);
+    }
+}
+
+/// Numbers that take a writer to its limits.
+constexpr float kHostileNumbers[] = {0.0F,          -0.0F,          1.0F / 3, -1.0F,     1e9F,       1e20F,
+                                     3.4028235e38F, -3.4028235e38F, 1e-45F,   kInfinity, -kInfinity, kNaN};
+
+TEST(Regressions, PicturesAreWholeWhateverTheNumbers) {
+    for (const float number : kHostileNumbers) {
+        const Drawing draw = [number](RenderContext& c) { drawEverything(c, number, "\"}"); };
+        EXPECT_EQ(Fuzz::svgFault(documentOf<SvgSurface>(draw)), "") << number;
+        EXPECT_EQ(Fuzz::displayListFault(documentOf<DisplayListSurface>(draw)), "") << number;
+    }
+}
+
+std::string faultOfElement(std::string_view element) {
+    return Fuzz::svgFault("<svg>" + std::string(element) + "</svg>");
+}
+
 TEST(Regressions, TheFaultsOfPicturesAreFound) {
     const struct {
+        std::string (*faultOf)(std::string_view);
         const char *picture, *fault, *why;
-    } lists[] = {
-        {"{\"op\":\"text\",\"text\":\"a\\\"nan\",\"x\":-1e38}\n", "", "words of the document"},
-        {"{\"text\":\"d\",\"fill\":\"inf\"}\n", "", "a word that is no name"},
-        {"{\"x\":1,\"y\":nan}\n", "behind \"y\"", "no number"},
-        {"{\"d\":\"M0 infL1 2\"}\n", "M0 infL1 2", "in a path"},
-        {"{\"x\":1", "cut off", "half a line"},
-        {"{\"text\":\"a\n", "without end", "half a text"},
+    } cases[] = {
+        {Fuzz::displayListFault, "{\"op\":\"text\",\"text\":\"a\\\"nan\",\"x\":-1e38}\n", "", "words of the document"},
+        {Fuzz::displayListFault, "{\"x\":1,\"y\":nan}\n", "behind \"y\"", "no number"},
+        {Fuzz::displayListFault, "{\"d\":\"M0 infL1 2\"}\n", "M0 infL1 2", "in a path"},
+        {Fuzz::displayListFault, "{\"x\":1", "cut off", "half a line"},
+        {Fuzz::displayListFault, "{\"text\":\"a\n", "without end", "half a text"},
+        {faultOfElement, "<g id='inf' fill='url(#inf)' font-family='nan'/>", "", "a reference to itself"},
+        {faultOfElement, "<g fill='url(#b)'/>", "reference to nothing", "an id that is not there"},
+        {faultOfElement, "<g fill='url(http://b)'/>", "external", "a paint from elsewhere"},
+        {faultOfElement, "<g id='a'/><g id='a'/>", "twice", "an id that is not the only one"},
+        {faultOfElement, "<script/>", "script", "code"},
+        {faultOfElement, "<g onload='x'/>", "script", "code in an attribute"},
+        {faultOfElement, "<g href='x.svg'/>", "external", "another file"},
+        {faultOfElement, "<g x='-nan'/>", "number", "no number"},
+        {faultOfElement, "<g>", "mismatched", "cut off"},
     };
-    for (const auto& c : lists) {
-        const std::string fault = Fuzz::displayListFault(c.picture);
-        EXPECT_EQ(fault.empty(), *c.fault == '\0') << c.why << ": " << fault;
-        EXPECT_NE(fault.find(c.fault), fault.npos) << c.why << ": " << fault;
-    }
-    const struct {
-        const char *content, *fault, *why;
-    } pictures[] = {
-        {"<g id='inf' fill='url(#inf)' font-family='nan'/>", "", "a reference to itself"},
-        {"<g fill='url(#b)'/>", "reference to nothing", "an id that is not there"},
-        {"<g fill='url(http://b)'/>", "external", "a paint from elsewhere"},
-        {"<g id='a'/><g id='a'/>", "twice", "an id that is not the only one"},
-        {"<script/>", "script", "code"},
-        {"<g onload='x'/>", "script", "code in an attribute"},
-        {"<g href='x.svg'/>", "external", "another file"},
-        {"<g x='-nan'/>", "number", "no number"},
-        {"<g>", "mismatched", "cut off"},
-    };
-    for (const auto& c : pictures) {
-        const std::string fault = Fuzz::svgFault("<svg>" + std::string(c.content) + "</svg>");
+    for (const auto& c : cases) {
+        const std::string fault = c.faultOf(c.picture);
         EXPECT_EQ(fault.empty(), *c.fault == '\0') << c.why << ": " << fault;
         EXPECT_NE(fault.find(c.fault), fault.npos) << c.why << ": " << fault;
     }
@@ -71,8 +113,7 @@ TEST(DocumentTree, AnyBytesAreADocument) {
 
 TEST(DocumentTree, ADocumentIsKeptWithItsTexts) {
     const std::string document =
-        "<root xmlns=\"http://vexa-charts.org/2008/vx\" width=\"30%\"><pie x=\"7\"><slice "
-        "caption=\"&#60;&#38;&#10;'\"/>"
+        "<root xmlns=\"http://vexa-charts.org/2008/vx\" width=\"30%\"><pie x=\"7\"><slice caption=\"&#60;&#10;'\"/>"
         "<slice value=\"2\"/></pie><title value=\"\u00e9\"/></root>";
     EXPECT_EQ(Fuzz::documentOf(Fuzz::stepsOfDocument(document)), document);
 }

@@ -1,10 +1,6 @@
 #include "tests/schema/SchemaTestTools.h"
 
-#include <stdlib.h>
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <cstdio>
 
 #include "vexa/engine/VexaEngine.h"
 #include "vexa/schema/MarkupText.h"
@@ -14,8 +10,6 @@
 
 namespace VEXA::Testing {
 namespace {
-
-namespace fs = std::filesystem;
 
 class LineLog final : public LogSink {
 public:
@@ -34,36 +28,21 @@ std::string outputOf(const std::string& command) {
 
 }  // namespace
 
-std::string contentOf(const std::string& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-std::vector<Verdict> validate(const std::vector<std::string>& documents) {
-    std::string directory = (fs::temp_directory_path() / "vexa-schema-XXXXXX").string();
-    if (::mkdtemp(directory.data()) == nullptr) return {};
-    const auto file = [&](std::size_t i) { return directory + "/" + std::to_string(i) + ".xml"; };
-    std::ofstream(directory + "/vexa.xsd", std::ios::binary) << makeXmlSchema();
-    std::string command = "xmllint --noout --schema " + directory + "/vexa.xsd";
-    for (std::size_t i = 0; i < documents.size(); ++i) {
-        std::ofstream(file(i), std::ios::binary) << documents[i];
-        command += " " + file(i);
-    }
+void expectVerdicts(const std::vector<Judged>& cases) {
+    const TestDirectory directory;
+    const auto nameOf = [](std::size_t i) { return std::to_string(i) + ".xml"; };
+    std::string command = "xmllint --noout --schema " + directory.write("vexa.xsd", makeXmlSchema());
+    for (std::size_t i = 0; i < cases.size(); ++i) command += " " + directory.write(nameOf(i), cases[i].document);
     const std::string told = outputOf(command + " 2>&1");
-    fs::remove_all(directory);
-
-    std::vector<Verdict> verdicts(documents.size());
     std::size_t at = 0;
-    for (std::size_t i = 0; i < documents.size(); ++i) {
-        const std::size_t end = std::min(told.find(file(i) + " validates\n", at), told.find(file(i) + " fails to", at));
-        if (end == std::string::npos) {
-            ADD_FAILURE() << "xmllint (package libxml2-utils) said nothing of " << documents[i] << '\n' << told;
-            continue;
-        }
-        verdicts[i] = {told.compare(end + file(i).size(), 10, " validates") == 0, told.substr(at, end - at)};
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const std::string file = directory.path(nameOf(i));
+        const std::size_t end = std::min(told.find(file + " validates\n", at), told.find(file + " fails to", at));
+        ASSERT_NE(end, std::string::npos) << "xmllint (package libxml2-utils) said nothing of " << file << '\n' << told;
+        const bool isValid = told.compare(end + file.size(), 10, " validates") == 0;
+        EXPECT_EQ(isValid, cases[i].isValid) << cases[i].why << '\n' << cases[i].document << told.substr(at, end - at);
         at = told.find('\n', end) + 1;
     }
-    return verdicts;
 }
 
 std::string complaints(const std::string& document) {

@@ -5,16 +5,19 @@
 #include <string>
 #include <vector>
 
+#include "tests/TestDirectory.h"
 #include "vexa/schema/Vocabulary.h"
 
 namespace VEXA::Testing {
 
-/// What an independent validator (xmllint) says of documents.
-struct Verdict {
-    bool isValid = false;
-    std::string told;  ///< the validator's words
+/// A document, what it shows, and whether the schema takes it.
+struct Judged {
+    std::string document;
+    std::string why;
+    bool isValid = true;
 };
-std::vector<Verdict> validate(const std::vector<std::string>& documents);
+/// Asks an independent validator, xmllint.
+void expectVerdicts(const std::vector<Judged>& cases);
 
 /// What the engine says while it reads and paints a document: warnings and the error that ends it, one a line.
 std::string complaints(const std::string& document);
@@ -24,7 +27,5 @@ std::string quotedAttribute(const std::string& text);
 
 /// A whole document around an element of that name, with the elements that must stand beside it.
 std::string documentAround(const Vocabulary& vocabulary, std::string_view name, const std::string& element);
-
-std::string contentOf(const std::string& file);
 
 }  // namespace VEXA::Testing

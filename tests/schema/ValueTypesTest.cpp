@@ -39,7 +39,7 @@ const Texts kNumbers{
      "5,5", "1,000", "0x10", "NaN", "inf", "INF", "5f",  "\u0665", "3.4028236e38", "-1e39", "5%"}};
 const Texts kLengths{
     {"5", "-5", "+5.", ".5px", "5px", "5pt", "5pc", "5mm", "5cm", "5in", "1e2px", " 5px ", "5\n"},
-    {"", "px", "5 px", "5PX", "5em", "5p", "5pxx", "5ex", "5%", "5px5", "5,5px", "e2px", "1epx", "5;", "auto"}};
+    {"", "px", "5 px", "5PX", "5em", "5p", "5pxx", "5ex", "5%", "5px5", "5,5px", "e2px", "1epx", "5;", "5px 5px"}};
 const Texts kColours{
     {"red", "RED", "DarkSlateGray", "darkslategrey", "lightgoldenrodyellow", "rebeccapurple", " red ", "#abc",
      "#ABCDEF", "#a1B2c3", "rgb(1,2,3)", "rgb(1 2 3)", "RGB( 1 , 2 , 3 )", "rgb(1%,2%,3%)", "rgb(1% 2% 3%)",
@@ -69,7 +69,7 @@ std::map<std::string_view, Texts> tableOfTexts() {
             kColours.taken,
             {"",          "blu",      "#ab",         "rgb(1,2)", "no",        "none none",   "none,",      "inherit",
              "url()",     "url( )",   "url(#a",      "url #a",   "url(#a b)", "url(#a) red", "url('#a\")", "url(\"#a)",
-             "url(#a\")", "url('#a'", "url(''#a'')", "uri(#a)",  "url (#a)",  "url(' #a')"}};
+             "url(#a\")", "url('#a'", "url(''#a'')", "url(')",   "url (#a)",  "url(' #a')"}};
         for (const char* text : {"none", "None", " NONE ", "url(#a)", "URL(#a)", "url( #a )", "url('#a')",
                                  "url( \"#a\" )", "url(#a(b)", "url(#\u00e9-1.2)"})
             table[name].taken.emplace_back(text);
@@ -78,61 +78,21 @@ std::map<std::string_view, Texts> tableOfTexts() {
                           {"", "Days", "day", "weeks", "10 days", "auto", "1px", "5%", "NaN"}};
     table["DashPattern"] = {
         {"", " ", "none", " none ", "5", "5 3", "5,3", "5 , 3", "5 ,3 , 2", "0 0", "-0 5", "5px 3mm", "5\n3", "1e1 .5"},
-        {"None", "none 5", "5 none", ",", "5,", ",5", "5,,3", "5 3,", "-5", "5 -3", "5%", "5-3", "5;3", "5 px", "a"}};
+        {"None", "none 5", "5 none", ",", "5,", ",5", "5,,3", "5 3,", "-5", "5 -3", "5%", "5-3", "5px3px", "5 px",
+         "a"}};
     table["ViewBox"] = {{"0 0 4 3", "0,0,4,3", " 0 , 0 4,3 ", "-1-1 4 3", "0 0+4 3", "0px 0mm 50% 3in", "1e1 0 4 3",
                          "0\t0\n4 3", ".5 .5 4. 3"},
                         {"", "0 0 4", "0 0 4 3 2", "0 0 4 3,", ",0 0 4 3", "0,,0 4 3", "0 0 4em 3", "none",
                          "0 0 4 3 px", "1.5 2 3", "0;0;4;3"}};
-    table["TransformList"] = {{"",
-                               " ",
-                               "matrix(1 0 0 1 0 0)",
-                               "matrix(1,0,0,1,0,0)",
-                               "matrix(1-1 0 1+2 0)",
-                               "translate(1)",
-                               "translate(1 2)",
-                               "translate(1px,2mm)",
-                               "translate(1-2)",
-                               "scale(2)",
-                               "scale(2,3)",
-                               "rotate(45)",
-                               "rotate(45 1 2)",
-                               "rotate(45,1px,2px)",
-                               "skewX(5)",
-                               "skewY(-5)",
-                               "rotate (45)",
-                               "rotate( 45 )",
-                               " rotate(45) ",
-                               "rotate(45)scale(2)",
-                               "rotate(45) scale(2)",
-                               "rotate(45) , scale(2)",
-                               "rotate(45),scale(2),skewX(1)",
-                               "rotate(\n45\n)"},
-                              {"none",
-                               "rotate",
-                               "rotate()",
-                               "rotate(45 1)",
-                               "rotate(45.5 3)",
-                               "rotate(45 1 2 3)",
-                               "rotate(45deg)",
-                               "rotate(45",
-                               "rotate 45",
-                               "rotate(45))",
-                               "rotate(45),",
-                               ",rotate(45)",
-                               "rotate(45),,scale(2)",
-                               "Rotate(45)",
-                               "skew(5)",
-                               "skewX(5 5)",
-                               "skewx(5)",
-                               "matrix(1 0 0 1 0)",
-                               "matrix(1 0 0 1 0 0 0)",
-                               "matrix(1 0 0 1 0 0px)",
-                               "scale(2px)",
-                               "scale(50%)",
-                               "translate(1,)",
-                               "translate(,1)",
-                               "translate(1em)",
-                               "scale(1 2 3)"}};
+    table["TransformList"] = {
+        {"", " ", "matrix(1 0 0 1 0 0)", "matrix(1-1 0 1+2 0)", "translate(1)", "translate(1px,2mm)", "translate(1-2)",
+         "scale(2)", "scale(2,3)", "rotate(45)", "rotate(45 1 2)", "rotate(45,1px,2px)", "skewX(5)", "skewY(-5)",
+         " rotate ( 45 ) ", "rotate(45) scale(2)", "rotate(45) , scale(2),skewX(1)skewY(2)", "rotate(\n45\n)"},
+        {"rotate",          "rotate()",      "rotate(45 1)",      "rotate(45 1 2 3)",      "rotate(45deg)",
+         "rotate(45",       "rotate 45",     "rotate(45),",       ",rotate(45)",           "rotate(45),,scale(2)",
+         "Rotate(45)",      "skewX(5 5)",    "matrix(1 0 0 1 0)", "matrix(1 0 0 1 0 0 0)", "matrix(1 0 0 1 0 0px)",
+         "scale(2px)",      "translate(5%)", "translate(1,)",     "translate(1,,2)",       "translate(,1)",
+         "translate(1 2 3)"}};
     return table;
 }
 
@@ -143,7 +103,8 @@ Texts keywordTexts(const XmlValueType& type) {
         for (const std::string& taken : {word, " " + word, word + "\n"}) texts.taken.push_back(taken);
         std::string upper = word;
         upper[0] = static_cast<char>(upper[0] - 'a' + 'A');
-        for (const std::string& refused : {upper, word + "x", word + " " + word, word + ",", std::string(" ")})
+        for (const std::string& refused :
+             {upper, word + "x", word + " " + word, word + ",", std::string("0"), std::string()})
             texts.refused.push_back(refused);
     }
     return texts;
@@ -159,12 +120,7 @@ bool parses(const XmlValueType& type, const std::string& text) {
 TEST(ValueTypes, SchemaAndParserTakeTheSameTexts) {
     const Vocabulary vocabulary = Vocabulary::ofCharts();
     const std::map<std::string_view, Texts> table = tableOfTexts();
-    struct Judged {
-        std::string what;
-        bool isTaken;
-    };
     std::vector<Judged> cases;
-    std::vector<std::string> documents;
     for (const auto& [name, place] : placesOfTypes(vocabulary)) {
         const XmlValueType& type = *place.attribute->type;
         const bool isEnumeration = !findKeywords(name).empty();
@@ -174,31 +130,28 @@ TEST(ValueTypes, SchemaAndParserTakeTheSameTexts) {
             const std::string element(place.element->name);
             const std::string attribute = std::string(place.attribute->name) + "=" + quotedAttribute(text);
             // A page is itself around what is in it.
-            documents.push_back("<root xmlns='http://vexa-charts.org/2008/vx' " + attribute + "/>");
-            if (!place.element->parents.empty()) {
-                documents.back() = documentAround(vocabulary, element, "<" + element + " " + attribute + "/>");
-            }
-            cases.push_back({std::string(type.name()) + " \"" + text + '"', isTaken});
-            EXPECT_EQ(parses(type, text), isTaken) << "parser: " << cases.back().what;
+            const std::string document =
+                place.element->parents.empty()
+                    ? "<root xmlns='http://vexa-charts.org/2008/vx' " + attribute + "/>"
+                    : documentAround(vocabulary, element, "<" + element + " " + attribute + "/>");
+            cases.push_back({document, std::string(type.name()) + " \"" + text + '"', isTaken});
+            EXPECT_EQ(parses(type, text), isTaken) << "parser: " << cases.back().why;
         };
         for (const std::string& text : texts.taken) judge(text, true);
         for (const std::string& text : texts.refused) judge(text, false);
     }
-    const std::vector<Verdict> verdicts = validate(documents);
-    for (std::size_t i = 0; i < cases.size(); ++i)
-        EXPECT_EQ(verdicts[i].isValid, cases[i].isTaken) << "schema: " << cases[i].what << '\n' << verdicts[i].told;
+    expectVerdicts(cases);
 }
 
 TEST(ValueTypes, EveryColourNameIsKnownInAnyCase) {
-    std::vector<std::string> documents;
+    std::vector<Judged> cases;
     for (const ColorName& row : namedColors()) {
         std::string name(row.name);
         for (std::size_t i = 0; i < name.size(); i += 2) name[i] = static_cast<char>(name[i] - 'a' + 'A');
-        documents.push_back("<root xmlns='http://vexa-charts.org/2008/vx' fill='" + name + "'/>");
+        cases.push_back({"<root xmlns='http://vexa-charts.org/2008/vx' fill='" + name + "'/>", name});
     }
-    EXPECT_EQ(documents.size(), 148U);
-    const std::vector<Verdict> verdicts = validate(documents);
-    for (std::size_t i = 0; i < documents.size(); ++i) EXPECT_TRUE(verdicts[i].isValid) << documents[i];
+    EXPECT_EQ(cases.size(), 148U);
+    expectVerdicts(cases);
 }
 
 // The texts that the reference shows, read as their types.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "tests/surfaces/SurfaceTesting.h"
 
 namespace VEXA {
@@ -31,15 +33,9 @@ SmartPtr<Brush> radial(float rx, float ry) {
 }
 
 TEST(Paint, IsOneColorOrNothing) {
-    struct Case {
-        const char* why;
-        SmartPtr<Brush> brush;
-        std::uint32_t rgb;
-        float opacity;
-    };
     const SmartPtr<Color> none;
     const SmartPtr<Color> green = colorOf(0x00FF00);
-    const Case cases[] = {
+    const std::tuple<const char*, SmartPtr<Brush>, std::uint32_t, float> cases[] = {
         {"no brush", nullptr, 0, 0},
         {"a colour", solid(0x123456, 0.5F), 0x123456, 0.5F},
         {"a brush without a colour", make<SolidColorBrush>(nullptr), 0, 0},
@@ -57,12 +53,12 @@ TEST(Paint, IsOneColorOrNothing) {
         {"an infinite matrix", transformed(kInfinity, 0, 0, 1), 0x0000FF, 1},
         {"a matrix that makes a line of the plane", transformed(1, 2, 2, 4), 0x0000FF, 1},
     };
-    for (const Case& c : cases) {
-        const Paint paint = resolvePaint(c.brush.get());
-        EXPECT_EQ(paint.gradient, nullptr) << c.why;
-        EXPECT_EQ(paint.rgb, c.rgb) << c.why;
-        EXPECT_FLOAT_EQ(paint.opacity, c.opacity) << c.why;
-        EXPECT_EQ(paint.paints(), c.opacity > 0) << c.why;
+    for (const auto& [why, brush, rgb, opacity] : cases) {
+        const Paint paint = resolvePaint(brush.get());
+        EXPECT_EQ(paint.gradient, nullptr) << why;
+        EXPECT_EQ(paint.rgb, rgb) << why;
+        EXPECT_FLOAT_EQ(paint.opacity, opacity) << why;
+        EXPECT_EQ(paint.paints(), opacity > 0) << why;
     }
 }
 

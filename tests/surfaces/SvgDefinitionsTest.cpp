@@ -2,8 +2,10 @@
 
 #include <regex>
 #include <set>
+#include <tuple>
 
 #include "tests/surfaces/SurfaceTesting.h"
+#include "vexa/surfaces/ContentIds.h"
 
 namespace VEXA {
 namespace {
@@ -96,26 +98,23 @@ TEST(SvgDefinitions, Gradients) {
 }
 
 TEST(SvgDefinitions, EachFactOfAGradientCounts) {
-    const auto moved = [](float x) {
+    const auto made = [](float moved, const StopPoint& last) {
         const SmartPtr<GradientBrush> gradient = redToBlue();
-        gradient->addMatrixTransform(1, 0, 0, 1, x, 0);
-        return gradient;
-    };
-    const auto endingIn = [](const StopPoint& last) {
-        const SmartPtr<GradientBrush> gradient = redToBlue();
+        gradient->addMatrixTransform(1, 0, 0, 1, moved, 0);
         gradient->setStops({{0, colorOf(0xFF0000), 1}, last});
         return gradient;
     };
+    const StopPoint blue{1, colorOf(0x0000FF), 1};
     const Vector<SmartPtr<GradientBrush>> gradients = {
         redToBlue(),
         redToBlue(GradientUnits::UserSpaceOnUse),
         redToBlue(GradientUnits(), GradientSpreadMethod::Repeat),
         redToBlue(GradientUnits(), GradientSpreadMethod::Reflect),
-        moved(0.1F),
-        moved(0.1000001F),
-        endingIn({1, colorOf(0x0000FE), 1}),
-        endingIn({1, colorOf(0x0000FF), 0.5F}),
-        endingIn({0.9F, colorOf(0x0000FF), 1}),
+        made(0.1F, blue),
+        made(0.1000001F, blue),
+        made(0, {1, colorOf(0x0000FE), 1}),
+        made(0, {1, colorOf(0x0000FF), 0.5F}),
+        made(0, {0.9F, colorOf(0x0000FF), 1}),
         make<LinearGradientBrush>(0.0F, 0.0F, 0.5F, 0.0F, GradientUnits::ObjectBoundingBox, GradientSpreadMethod::Pad),
     };
     gradients.back()->setStops(gradients.front()->getStops());
@@ -125,17 +124,46 @@ TEST(SvgDefinitions, EachFactOfAGradientCounts) {
     EXPECT_EQ(idsOf(svgBody(dotIn(redToBlue()))), idsOf(svgBody(dotIn(gradients.front())))) << "two equal documents";
 }
 
+ContentIds::Result intern(ContentIds& ids, const Vector<std::uint32_t>& words) {
+    for (const std::uint32_t word : words) ids.add(word);
+    return ids.intern();
+}
+
+TEST(ContentIds, TellWhatIsNewByTheContentAlone) {
+    ContentIds ids;
+    const auto first = intern(ids, {1, 2});
+    EXPECT_TRUE(first.isNew);
+    EXPECT_FALSE(intern(ids, {1, 2}).isNew);
+    EXPECT_TRUE(intern(ids, {2, 1}).isNew);
+    EXPECT_TRUE(intern(ids, {1, 2, 0}).isNew) << "zeros at the end count";
+    EXPECT_FALSE(intern(ids, {1, 2}).isNew) << "a repeated content leaves the others as they were";
+    ids.clear();
+    EXPECT_TRUE(intern(ids, {4}).isNew);
+    EXPECT_TRUE(intern(ids, {1, 2}).isNew);
+    EXPECT_EQ(intern(ids, {1, 2}).id, first.id) << "in another order";
+}
+
+TEST(ContentIds, DifferentContentsWithOneHashAreKeptApart) {
+    // found by search: both come to the same hash
+    const Vector<std::uint32_t> one = {0x1ED3BFC, 0xEED3E09F, 0};
+    const Vector<std::uint32_t> other = {0xC4045E0B, 0x210CF879, 0x5DC07DAA};
+    ContentIds alone;
+    const auto expected = intern(alone, other);
+    ContentIds ids;
+    const auto first = intern(ids, one);
+    ASSERT_EQ(first.id, expected.id) << "the hash has changed: search for another pair";
+    const auto second = intern(ids, other);
+    EXPECT_TRUE(second.isNew);
+    EXPECT_NE(second.id, first.id);
+    EXPECT_EQ(intern(ids, other).id, second.id);
+    EXPECT_EQ(intern(ids, one).id, first.id);
+}
+
 TEST(SvgClips, ArePathsInTheTransformOfTheirTime) {
     const auto square = PathCommand::rectangle(1, 1, 5, 5, 0, 0);
     const auto triangle = PathCommand::polygon({{0, 0}, {5, 0}, {5, 5}}, true);
     const auto corners = PathCommand::polygon({{0, 0}, {5, 0}, {5, 5}, {1, 5}}, true);
-    struct Case {
-        const char* why;
-        SmartPtr<Path> path;
-        Matrix matrix;
-        const char* content;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, SmartPtr<Path>, Matrix, std::string> cases[] = {
         {"a rectangle stays one, under a negative scale too", square, Matrix(2, 0, 0, -3, 10, 20),
          R"(<rect x="12" y="2" width="10" height="15"/>)"},
         {"another path carries the transform, and the rule that fills it", triangle, Matrix(1, 0, 0, 1, 10, 20),
@@ -148,18 +176,18 @@ TEST(SvgClips, ArePathsInTheTransformOfTheirTime) {
         {"nor within one with such a corner", PathCommand::polygon({{0, 0}, {5, kNaN}, {5, 5}}, true), Matrix(), ""},
         {"nor within an empty path", make<Path>(), Matrix(), ""},
     };
-    for (const Case& c : cases) {
+    for (const auto& [why, path, matrix, content] : cases) {
         DrawingState state;
         state.fill = solid(0);
-        state.clip = make<ClipNode>(c.path, c.matrix, nullptr);
+        state.clip = make<ClipNode>(path, matrix, nullptr);
         const auto draw = [&state](RenderContext& context) {
             context.restoreState(state);
             dot(context);
         };
-        EXPECT_EQ(bodyOf(draw), "<defs>\n<clipPath id=\"ID\">" + std::string(c.content) +
+        EXPECT_EQ(bodyOf(draw), "<defs>\n<clipPath id=\"ID\">" + content +
                                     "</clipPath>\n</defs>\n<g clip-path=\"url(#ID)\">\n"
                                     "<circle cx=\"1\" cy=\"1\" r=\"1\" fill=\"#000000\"/>\n</g>\n")
-            << c.why;
+            << why;
         state.fill = nullptr;
         EXPECT_EQ(bodyOf(draw), "") << "a clip that nothing is painted in leaves no group";
     }

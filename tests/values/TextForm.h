@@ -44,14 +44,4 @@ void checkTexts(const TextCase (&cases)[N]) {
     }
 }
 
-/// Texts that only a text takes.
-inline constexpr std::string_view kNastyTexts[] = {
-    "nan",  "inf",   "-inf",     "1e999", "0x10", "1;5",   "1 5 x", "--1",
-    "+-1",  "1e",    "e5",       "e",     ".",    "-",     "+",     "1. 2.3.4.",
-    "1 px", "12em",  "px",       "%",     "5%%",  "\xC3",  "(",     "rgb(",
-    "url(", "url()", "url('#a)", "#",     "#12",  "1_000", "\"1\"", "\xEF\xBC\x91" /* full-width 1 */,
-};
-/// Texts without anything in them, which only lists, values and texts take.
-inline constexpr std::string_view kBlankTexts[] = {"", " ", "\t\r\n"};
-
 }  // namespace VEXA::Testing

@@ -13,18 +13,15 @@ using namespace Testing;
 
 TEST(Value, KindIsFoundFromTheText) {
     const std::tuple<const char*, ValueKind, const char*> cases[] = {
-        {"", ValueKind::None, ""},
         {" \t\n", ValueKind::None, "blank"},
         {"0", ValueKind::Number, "zero is a value"},
         {" -12.5e2 ", ValueKind::Number, "sign, point and exponent"},
         {"20240305", ValueKind::Number, "digits alone are no date"},
         {"1e999", ValueKind::Text, "no finite number"},
         {"1e-999", ValueKind::Number, "too small to tell from zero"},
-        {"nan", ValueKind::Text, "a word"},
         {"1,234", ValueKind::Text, "no grouping"},
         {" 2024-03-05T14:30:00 ", ValueKind::Date, "with a time"},
         {"2023-02-29", ValueKind::Text, "no such day"},
-        {"2024-3-5", ValueKind::Text, "two digits each"},
     };
     for (const auto& [text, kind, why] : cases) EXPECT_EQ(parsed<Value>(text).getKind(), kind) << text << ": " << why;
 }

@@ -13,7 +13,7 @@ namespace VEXA::Testing {
 inline constexpr XmlNamespace kLibrary{"urn:library", "lib"};
 
 /// What the parser did, in order.
-inline thread_local std::vector<std::string> events;
+inline thread_local std::string events;
 
 class Item : public XmlObject {
 public:
@@ -31,85 +31,74 @@ public:
     }
     static int typeID() { return getTypeInfoInstance()->typeID(); }
 
-    virtual int weight() const = 0;
+    virtual void beConcrete() const = 0;
     void initialize(SmartPtr<XmlObject> parent, SaxParserContext& context) override {
         XmlObject::initialize(parent, context);
-        events.push_back("initialize, name " + name->toUtf8());
+        events += "initialize, name " + name->toUtf8() + "; ";
     }
-    void finalize(SaxParserContext&) override { events.push_back("finalize " + name->toUtf8()); }
+    void finalize(SaxParserContext&) override { events += "finalize " + name->toUtf8() + "; "; }
     void handleUnrecognizedAttribute(const String& attribute, const String& uri, const String& value) override {
-        events.push_back("unrecognized " + uri.toUtf8() + "|" + attribute.toUtf8() + "=" + value.toUtf8());
+        events += "unrecognized " + uri.toUtf8() + "|" + attribute.toUtf8() + "=" + value.toUtf8() + "; ";
     }
-    void addText(String text) override { events.push_back("text " + text.toUtf8()); }
+    void addText(String text) override { events += "text " + text.toUtf8() + "; "; }
 
     TXmlAttribute<String> name{DefaultStringAttribute};
 };
 
-class Book final : public Item {
+/// What the classes of the library share: a record, which T's `addParts` fills.
+template <class T>
+class ItemOf : public Item {
 public:
-    class BookTypeInfo final : public XmlTypeInfo<Book, Item> {
+    class Record final : public XmlTypeInfo<T, Item> {
     public:
-        BookTypeInfo() : XmlTypeInfo("Book", "book", kLibrary, &initTypeInfo) {}
+        Record() : XmlTypeInfo<T, Item>(T::kClass, T::kElement, kLibrary, &initTypeInfo) {}
         static void initTypeInfo(XmlObjectTypeInfo* info) {
             Item::ItemTypeInfo::initTypeInfo(info);
-            addAttributeTypeInfo(info, "size", kLibrary, &Book::size, DefaultMarkerWidth, true);
-            addAttributeTypeInfo(info, "depth", kLibrary, &Book::depth, DefaultLength, true);
-            addAttributeTypeInfo(info, "pages", kLibrary, &Book::pages, DefaultFloatAttribute, false);
+            T::addParts(info);
         }
+        using XmlObjectTypeInfo::addAttributeTypeInfo;
+        using XmlObjectTypeInfo::addElementTypeInfo;
     };
     static XmlObjectTypeInfo* getTypeInfoInstance() {
-        static XmlObjectTypeInfo* const record = new BookTypeInfo;
+        static XmlObjectTypeInfo* const record = new Record;
         return record;
     }
     static int typeID() { return getTypeInfoInstance()->typeID(); }
     XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
-    int weight() const override { return 1; }
+    void beConcrete() const override {}
+};
+
+class Book final : public ItemOf<Book> {
+public:
+    static constexpr const char *kClass = "Book", *kElement = "book";
+    static void addParts(XmlObjectTypeInfo* info) {
+        Record::addAttributeTypeInfo(info, "size", kLibrary, &Book::size, DefaultMarkerWidth, true);
+        Record::addAttributeTypeInfo(info, "depth", kLibrary, &Book::depth, DefaultLength, true);
+    }
 
     TXmlAttribute<Length> size{DefaultMarkerWidth};  // 8
     TXmlAttribute<Length> depth{DefaultLength};      // 0
-    TXmlAttribute<float> pages{DefaultFloatAttribute};
 };
 
-class Box final : public Item {
+class Box final : public ItemOf<Box> {
 public:
-    class BoxTypeInfo final : public XmlTypeInfo<Box, Item> {
-    public:
-        BoxTypeInfo() : XmlTypeInfo("Box", "box", kLibrary, &initTypeInfo) {}
-        static void initTypeInfo(XmlObjectTypeInfo* info) {
-            Item::ItemTypeInfo::initTypeInfo(info);
-            addAttributeTypeInfo(info, "depth", kLibrary, &Box::depth, DefaultLength, false);
-            addElementTypeInfo(info, "box", kLibrary, &Box::items);
-            addElementTypeInfo(info, "book", kLibrary, &Box::items);
-            addElementTypeInfo(info, "label", kLibrary, &Box::label);
-        }
-    };
-    static XmlObjectTypeInfo* getTypeInfoInstance() {
-        static XmlObjectTypeInfo* const record = new BoxTypeInfo;
-        return record;
+    static constexpr const char *kClass = "Box", *kElement = "box";
+    static void addParts(XmlObjectTypeInfo* info) {
+        Record::addAttributeTypeInfo(info, "depth", kLibrary, &Box::depth, DefaultLength, false);
+        Record::addElementTypeInfo(info, "box", kLibrary, &Box::items);
+        Record::addElementTypeInfo(info, "book", kLibrary, &Box::items);
+        Record::addElementTypeInfo(info, "label", kLibrary, &Box::label);
     }
-    static int typeID() { return getTypeInfoInstance()->typeID(); }
-    XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
-    int weight() const override { return 2; }
 
     TXmlAttribute<Length> depth{DefaultLength};  // kept to itself
     XmlObjectList<Item> items;
     XmlObjPtr<Item> label;
 };
 
-class Label final : public Item {
+class Label final : public ItemOf<Label> {
 public:
-    class LabelTypeInfo final : public XmlTypeInfo<Label, Item> {
-    public:
-        LabelTypeInfo() : XmlTypeInfo("Label", "label", kLibrary, &initTypeInfo) {}
-        static void initTypeInfo(XmlObjectTypeInfo* info) { Item::ItemTypeInfo::initTypeInfo(info); }
-    };
-    static XmlObjectTypeInfo* getTypeInfoInstance() {
-        static XmlObjectTypeInfo* const record = new LabelTypeInfo;
-        return record;
-    }
-    static int typeID() { return getTypeInfoInstance()->typeID(); }
-    XmlObjectTypeInfo* getTypeInfo() const override { return getTypeInfoInstance(); }
-    int weight() const override { return 3; }
+    static constexpr const char *kClass = "Label", *kElement = "label";
+    static void addParts(XmlObjectTypeInfo*) {}
     void finalize(SaxParserContext&) override {
         if (*name == String("explode")) throw std::runtime_error("label");
     }
@@ -138,17 +127,19 @@ private:
     std::size_t at_ = 0;
 };
 
-/// Keeps what it is told, each problem as "line:column: severity code".
+/// Keeps what it is told, each problem as "line:column: severity code; ", and the last message.
 class Collector final : public ISAXParserMonitor, public LogSink {
 public:
     void report(const LogRecord& record) override { write(record); }
     void write(const LogRecord& record) override {
-        records.push_back(record);
-        lines.push_back(std::to_string(record.place.line) + ":" + std::to_string(record.place.column) + ": " +
-                        (record.severity == Severity::Error ? "error " : "warning ") + std::to_string(record.code));
+        ++count;
+        message = record.message.toUtf8();
+        problems += std::to_string(record.place.line) + ":" + std::to_string(record.place.column) + ": " +
+                    (record.severity == Severity::Error ? "error " : "warning ") + std::to_string(record.code) + "; ";
     }
-    std::vector<std::string> lines;
-    std::vector<LogRecord> records;
+    std::size_t count = 0;
+    std::string problems;
+    std::string message;
 };
 
 struct ReadOptions {
@@ -171,6 +162,14 @@ inline XmlObjPtr<XmlObject> readFrom(SmartPtr<IO::Stream> stream, const ReadOpti
 
 inline XmlObjPtr<XmlObject> read(const std::string& document, const ReadOptions& options = {}) {
     return readFrom(SmartPtr<IO::Stream>(new IO::MemoryStream(document)), options);
+}
+
+/// What the parser tells a monitor.
+inline Collector told(const std::string& document, ReadOptions options = {}) {
+    Collector collector;
+    options.monitor = &collector;
+    read(document, options);
+    return collector;
 }
 
 /// A box with this content, in the library's namespace.

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <thread>
+#include <tuple>
 
 #include "tests/xml/Library.h"
 #include "vexa/support/core/Limits.h"
@@ -10,18 +11,15 @@ namespace {
 
 const Box& asBox(const XmlObjPtr<XmlObject>& object) { return static_cast<const Box&>(*object); }
 const Book& bookAt(const Box& box, std::size_t index) { return static_cast<const Book&>(*box.items[index]); }
+const Item& lastIn(const Box& box) { return *box.items[box.items.size() - 1]; }
 
 TEST(Parser, MakesAnElementInOrder) {
     events.clear();
     read(box("<book name='b' x='1'/><label name='l'/>", "name='a' xmlns:o='urn:other' o:tag='t'"));
-    const std::vector<std::string> expected = {"initialize, name ",  // before the attributes are set
-                                               "unrecognized urn:other|tag=t",
-                                               "initialize, name ",
-                                               "unrecognized |x=1",
-                                               "finalize b",
-                                               "initialize, name ",
-                                               "finalize a"};
-    EXPECT_EQ(events, expected);
+    EXPECT_EQ(events,
+              "initialize, name ; "  // before the attributes are set
+              "unrecognized urn:other|tag=t; initialize, name ; unrecognized |x=1; finalize b; "
+              "initialize, name ; finalize a; ");
 }
 
 TEST(Parser, KeepsOrderParentsAndPlaces) {
@@ -41,38 +39,26 @@ TEST(Parser, KeepsOrderParentsAndPlaces) {
     EXPECT_EQ(outer.items[2]->getPlace(), (SourcePlace{4, 3}));
 }
 
-struct Inheritance {
-    const char* document;
-    float size;
-    float depth;
-    bool sizeGiven;
-    const char* why;
-};
-
 TEST(Parser, InheritsAttributes) {
-    const Inheritance cases[] = {
-        {"<box><book/></box>", 8, 0, false, "no ancestor carries a value: the defaults"},
-        {"<box><book size='3'/></box>", 3, 0, true, "its own value"},
-        {"<box size='5'><book/></box>", 5, 0, false, "an ancestor that does not register the name carries it too"},
-        {"<box size='5'><book size='8'/></box>", 8, 0, true, "an explicit default stops inheritance"},
-        {"<box depth='5'><book/></box>", 8, 0, false, "an ancestor that keeps the name to itself is passed over"},
-        {"<box size='5'><box size='6'><box><book/></box></box></box>", 6, 0, false, "the nearest ancestor wins"},
-        {"<box size='5'><box size='6'/><book/></box>", 5, 0, false, "a sibling's value ends with the sibling"},
-        {"<box size='5'><book size='6'/><book/></box>", 6, 0, true, "the first book keeps its own"},
+    // size, depth and whether the size is given, of the last book
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"<box><book/></box>", "8 0", "no ancestor carries a value: the defaults"},
+        {"<box><book size='3'/></box>", "3 0 given", "its own value"},
+        {"<box size='5'><book/></box>", "5 0", "an ancestor that does not register the name carries it too"},
+        {"<box size='5'><book size='8'/></box>", "8 0 given", "an explicit default stops inheritance"},
+        {"<box depth='5'><book/></box>", "8 0", "an ancestor that keeps the name to itself is passed over"},
+        {"<box size='5'><box size='6'><box><book/></box></box></box>", "6 0", "the nearest ancestor wins"},
+        {"<box size='5'><box size='6'/><book/></box>", "5 0", "a sibling's value ends with the sibling"},
+        {"<box size='5'><book size='6'/><book/></box>", "5 0", "also where it hands nothing on"},
     };
-    for (const Inheritance& c : cases) {
-        std::string document = c.document;
-        document.insert(4, " xmlns='urn:library'");
-        const auto top = read(document);
+    for (const auto& [text, expected, why] : cases) {
+        const auto top = read(std::string(text).insert(4, " xmlns='urn:library'"));
         const Item* item = &asBox(top);
-        while (item->isA(Box::typeID())) {
-            const auto& items = static_cast<const Box*>(item)->items;
-            item = items[items.size() > 1 && items[0]->isA(Box::typeID()) ? 1 : 0].get();
-        }
+        while (item->isA(Box::typeID())) item = &lastIn(static_cast<const Box&>(*item));
         const auto& book = static_cast<const Book&>(*item);
-        EXPECT_EQ(book.size->getNumber(), c.size) << c.why;
-        EXPECT_EQ(book.depth->getNumber(), c.depth) << c.why;
-        EXPECT_EQ(book.size.isGiven(), c.sizeGiven) << c.why;
+        const std::string found =
+            ValueTraits<Length>::print(*book.size) + " " + ValueTraits<Length>::print(*book.depth);
+        EXPECT_EQ(found + (book.size.isGiven() ? " given" : ""), expected) << why;
     }
     ReadOptions plain;
     plain.inherit = false;
@@ -86,90 +72,58 @@ TEST(Parser, WritingOneValueChangesNoOther) {
     first.depth.setValue(Length(7));
     EXPECT_EQ(bookAt(asBox(top), 1).size->getNumber(), 5) << "shared with the ancestor";
     EXPECT_EQ(bookAt(asBox(top), 1).depth->getNumber(), 0) << "shared with every default";
-    EXPECT_TRUE(first.depth != DefaultLength);
-    first.depth.setValue(Length(0));
-    EXPECT_TRUE(first.depth == DefaultLength) << "values are compared, not pointers";
 }
 
 struct Problem {
     std::string document;
-    std::vector<std::string> lines;
-    const char* why;
+    const char *problems, *message, *why;
 };
 
-TEST(Parser, CollectsEveryProblemWithItsPlace) {
+TEST(Parser, CollectsEveryProblemWithItsPlaceAndTellsWhatWouldDo) {
+    const std::string ebcdic = "<?xml version='1.0' encoding='EBCDIC-9'?><box xmlns='urn:library'/>";
     const Problem cases[] = {
-        {box("<book size='big'/>"), {"1:27: error 3003"}, "a value that is none of its type"},
-        {box("\n <bok/>\n <book size='1' Size='2'/>"), {"2:2: warning 3005", "3:2: warning 3007"}, "near names"},
-        {box("<zzzzzzzzz/><book qqqqqqqqqqq='1'/>"), {"1:27: warning 3004", "1:39: warning 3006"}, "no near name"},
-        {box("<bok><book size='big'/></bok>"), {"1:27: warning 3005"}, "what lies in an unknown element is not read"},
-        {box("<label pages='3'/><book pges='3'/>"),
-         {"1:27: warning 3021", "1:45: warning 3007"},
-         "another's attribute"},
-        {box("<book><label/></book>"), {"1:33: warning 3018"}, "a known element where it may not stand"},
+        {box("<book size='big'/>"), "1:27: error 3003; ", "book: attribute \"size\": \"big\" is not a length",
+         "a value"},
+        {box("<book size='1,5 PX'/>"), "1:27: error 34100; ", "did you mean \"1.5px\"?", "a value nearly right"},
+        {box("\n <boook/>"), "2:2: warning 3005; ",
+         "unknown element \"boook\" in \"box\" is skipped; did you mean \"book\"?", "a near name"},
+        {box("<book size='1' Size='2'/>"), "1:27: warning 3007; ", "did you mean \"size\"?", "of an attribute"},
+        {box("<zzzzzzzzz/><book qqqqqqqqqqq='1'/>"), "1:27: warning 3004; 1:39: warning 3006; ", "", "no near name"},
+        {box("<bok><book size='big'/></bok>"), "1:27: warning 3005; ", "", "in an unknown element nothing is read"},
+        {box("<label pages='3'/>"), "1:27: warning 3021; ", "write it on <book>", "another element's attribute"},
+        {box("<book><label/></book>"), "1:33: warning 3018; ",
+         "element \"label\" may not stand in \"book\" and is skipped; write it inside <box>", "in a wrong place"},
         {box("<book l:size='4' size='big' xmlns:l='urn:library'/><book size='4' l:size='5' xmlns:l='urn:library'/>"),
-         {"1:27: warning 3019", "1:78: warning 3019"},
-         "with and without prefix: the first counts, whatever the second is"},
-        {box("", "size='4' l:size='big' xmlns:l='urn:library'"),
-         {"1:1: warning 3019"},
-         "also where it is only handed on"},
-        {box("<book size='4' o:size='5' xmlns:o='urn:other'/>"), {}, "another vocabulary's attribute is another one"},
-        {box("<label/><label/>"), {"1:35: warning 3008"}, "a second child where one is allowed"},
-        {box(" a <book/> b"), {"1:27: warning 3009"}, "text, told once for an element"},
-        {box(" \n\t "), {}, "blank text is layout"},
-        {box("<book xmlns=''/>"), {"1:27: warning 3016"}, "a known name outside the namespace"},
+         "1:27: warning 3019; 1:78: warning 3019; ", "", "with and without prefix the first counts, whatever it is"},
+        {box("", "size='4' l:size='big' xmlns:l='urn:library'"), "1:1: warning 3019; ", "", "also where handed on"},
+        {box("<book size='4' o:size='5' xmlns:o='urn:other'/>"), "", "", "another vocabulary's attribute"},
+        {box("<label/><label/>"), "1:35: warning 3008; ", "", "a second child where one is allowed"},
+        {box(" a <book/> b"), "1:27: warning 3009; ", "", "text, told once for an element"},
+        {box(" \n\t "), "", "", "blank text is layout"},
+        {box("<book xmlns=''/>"), "1:27: warning 3016; ", "", "a known name outside the namespace"},
+        {box("<book xmlns='urn:lib'/>"), "1:27: warning 34101; ", "in the namespace \"urn:lib\"",
+         "a known name outside"},
         {box("<book size='a'/><book size='b'/>\n<bok/></bx>"),
-         {"1:27: error 3003", "1:43: error 3003", "2:1: warning 3005", "2:9: error 3017"},
-         "one run finds all of them"},
-        {"<book2 xmlns='urn:library'/>", {"1:1: error 3002"}, "an unknown top element"},
-        {"<box/>", {"1:1: error 3016"}, "the top element without its namespace"},
-        {"<!DOCTYPE box [<!ENTITY a 'b'>]><box xmlns='urn:library'/>",
-         {"1:15: error 3001"},
-         "no entities: refused where they would begin"},
-        {"<?xml version='1.0' encoding='EBCDIC-9'?><box xmlns='urn:library'/>", {"1:31: error 3015"}, "encodings"},
-        {"<?xml version='1.0' encoding='UTF-16'?><box xmlns='urn:library'/>",
-         {"1:31: error 3000"},
-         "known, but not so"},
-        {"<box xmlns='urn:library'/><box/>", {"1:27: error 3000"}, "two top elements"},
-        {"<p:box/>", {"1:1: error 3000"}, "a prefix without declaration"},
-        {"", {}, "an empty stream has no element: that is the caller's to tell"},
-        {" \n<!-- nothing -->", {}, "nor has a blank one"},
+         "1:27: error 3003; 1:43: error 3003; 2:1: warning 3005; 2:9: error 3017; ", "", "one run finds all"},
+        {box("<book>"), "1:35: error 3017; ", "<book> of line 1 is open", "an end tag that fails"},
+        {"<book2 xmlns='urn:library'/>", "1:1: error 3002; ", "", "an unknown top element"},
+        {"<box/>", "1:1: error 3016; ", "xmlns=\"urn:library\"", "the top element without its namespace"},
+        {"<box xmlns='urn:lib'/>", "1:1: error 34101; ",
+         "in the namespace \"urn:lib\" and not in that of charts; write xmlns=\"urn:library\"", "in another one"},
+        {"<!DOCTYPE box [<!ENTITY a 'b'>]><box xmlns='urn:library'/>", "1:15: error 3001; ", "", "no entities"},
+        {ebcdic, "1:31: error 3015; ", "encoding \"EBCDIC-9\" is unknown", "encodings"},
+        {"<?xml version='1.0' encoding='UTF-16'?><box/>", "1:31: error 3000; ", "", "known, but not so"},
+        {"<box xmlns='urn:library'/><box/>", "1:27: error 3000; ", "", "two top elements"},
+        {"<p:box/>", "1:1: error 3000; ", "", "a prefix without declaration"},
+        {"hello", "1:1: error 3000; ", "a document starts with <", "no XML"},
+        {box("<book name='&#0;'/>"), "1:39: error 3017; ", "&#9;", "a character that XML has not"},
+        {"<?xml encoding='UTF-8'?><box/>", "1:7: error 3000; ", "write <?xml version=\"1.0\" encoding=\"UTF-8\"?>", ""},
+        {" \n<!-- nothing -->", "", "", "a stream without element: that is the caller's to tell"},
     };
     for (const Problem& c : cases) {
-        Collector collector;
-        ReadOptions options;
-        options.monitor = &collector;
-        read(c.document, options);
-        EXPECT_EQ(collector.lines, c.lines) << c.why << "\n" << c.document;
-    }
-}
-
-TEST(Parser, TellsWhatWouldDo) {
-    const std::pair<std::string, const char*> cases[] = {
-        {box("<book size='thick'/>"), "book: attribute \"size\": \"thick\" is not a length"},
-        {box("<boook/>"), "unknown element \"boook\" in \"box\" is skipped; did you mean \"book\"?"},
-        {box("<book Size='2'/>"), "did you mean \"size\"?"},
-        {box("<book>"), "<book> of line 1 is open"},
-        {"<box/>", "xmlns=\"urn:library\""},
-        {"<box xmlns='urn:lib'/>",
-         "in the namespace \"urn:lib\" and not in that of charts; write xmlns=\"urn:library\""},
-        {box("<book xmlns='urn:lib'/>"), "in the namespace \"urn:lib\""},
-        {box("<book size='1,5 PX'/>"), "did you mean \"1.5px\"?"},
-        {"<?xml version='1.0' encoding='EBCDIC-9'?><box/>", "encoding \"EBCDIC-9\" is unknown"},
-        {"hello", "a document starts with <"},
-        {box("<book name='&#0;'/>"), "&#9;"},
-        {"<?xml encoding='UTF-8'?><box/>", "write <?xml version=\"1.0\" encoding=\"UTF-8\"?>"},
-        {box("<book><label/></book>"),
-         "element \"label\" may not stand in \"book\" and is skipped; write it inside <box>"},
-    };
-    for (const auto& [document, part] : cases) {
-        Collector collector;
-        ReadOptions options;
-        options.monitor = &collector;
-        read(document, options);
-        ASSERT_EQ(collector.records.size(), 1U) << document;
-        EXPECT_NE(collector.records[0].message.toUtf8().find(part), std::string::npos)
-            << collector.records[0].message.toUtf8();
+        const Collector found = told(c.document);
+        EXPECT_EQ(found.problems, c.problems) << c.why << "\n" << c.document;
+        EXPECT_NE(found.message.find(c.message), std::string::npos) << found.message;
     }
 }
 
@@ -183,22 +137,18 @@ TEST(Parser, ThrowsTheFirstErrorWithoutAMonitor) {
         EXPECT_EQ(e.getCode(), 3003);
         EXPECT_EQ(e.getPlace(), (SourcePlace{2, 1}));
     }
-    EXPECT_EQ(log.lines, (std::vector<std::string>{"1:27: warning 3005", "2:1: error 3003"}));
-    log.lines.clear();
+    EXPECT_EQ(log.problems, "1:27: warning 3005; 2:1: error 3003; ");
+    log.problems.clear();
     EXPECT_THROW(read(box("<book>")), Exception);
-    EXPECT_EQ(log.lines, (std::vector<std::string>{"1:35: error 3017"})) << "what is logged is what is thrown";
+    EXPECT_EQ(log.problems, "1:35: error 3017; ") << "what is logged is what is thrown";
 }
 
 TEST(Parser, TreatsUnknownElementsAsAsked) {
     ReadOptions options;
-    Collector collector;
-    options.monitor = &collector;
     options.unrecognized = UnrecognizedElementTreatment::SkipSilently;
-    read(box("<zzz/>"), options);
-    EXPECT_TRUE(collector.lines.empty());
+    EXPECT_EQ(told(box("<zzz/>"), options).problems, "");
     options.unrecognized = UnrecognizedElementTreatment::Refuse;
-    read(box("<zzz/>"), options);
-    EXPECT_EQ(collector.lines, std::vector<std::string>{"1:27: error 3004"});
+    EXPECT_EQ(told(box("<zzz/>"), options).problems, "1:27: error 3004; ");
 }
 
 TEST(Parser, HandsTextToObjectsWhenAsked) {
@@ -206,80 +156,58 @@ TEST(Parser, HandsTextToObjectsWhenAsked) {
     ReadOptions options;
     options.collectText = true;
     read(box("a<book/>b &lt;"), options);
-    EXPECT_EQ(events[1], "text a");
+    EXPECT_NE(events.find("; text a; "), std::string::npos) << events;
 }
 
-TEST(Parser, ReadsEncodings) {
-    const auto utf16 = [](const std::string& ascii, bool bigEndian) {
-        std::string bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
-        for (const char c : ascii) bytes += bigEndian ? std::string({'\0', c}) : std::string({c, '\0'});
-        return bytes;
-    };
-    const auto nameOf = [](const std::string& document, const char* encoding = "") {
-        ReadOptions options;
-        options.encoding = encoding;
-        return asBox(read(document, options)).name->toUtf8();
-    };
-    EXPECT_EQ(nameOf(utf16(box("", "name='Ab'"), true)), "Ab");
-    EXPECT_EQ(nameOf(utf16(box("", "name='Ab'"), false)), "Ab");
-    EXPECT_EQ(nameOf("\xEF\xBB\xBF" + box("", "name='\xC3\xA9'")), "\xC3\xA9");
-    EXPECT_EQ(nameOf("<?xml version='1.0' encoding='ISO-8859-1'?>" + box("", "name='\xE9'")), "\xC3\xA9");
-    EXPECT_EQ(nameOf(box("", "name='\xE9'"), "ISO-8859-1"), "\xC3\xA9");
-    EXPECT_THROW(nameOf(box("", "name='\xE9'")), Exception) << "no UTF-8";
-    EXPECT_THROW(nameOf("<?xml version='1.0' encoding='latin-9'?>" + box("", "name='\xE9'")), Exception);
+std::string utf16(const std::string& ascii, bool bigEndian) {
+    std::string bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
+    for (const char c : ascii) bytes += bigEndian ? std::string({'\0', c}) : std::string({c, '\0'});
+    return bytes;
 }
 
-TEST(Parser, ReadsTheSameFromAPipe) {
-    std::string content;
-    for (int i = 0; i < 2000; ++i) content += "<book name='" + std::to_string(i) + "' size='2'/>\n";
-    for (const std::size_t step : {std::size_t{1}, std::size_t{7}, std::size_t{1} << 20}) {
-        const auto top = readFrom(SmartPtr<IO::Stream>(new TrickleStream(box(content), step)));
-        ASSERT_EQ(asBox(top).items.size(), 2000U);
-        EXPECT_EQ(bookAt(asBox(top), 1999).name->toUtf8(), "1999");
-        EXPECT_EQ(bookAt(asBox(top), 1999).getPlace(), (SourcePlace{2000, 1}));
-    }
-}
-
-TEST(Parser, CountsLinesAndCharacters) {
-    const auto utf16 = [](const std::string& ascii) {
-        std::string bytes = "\xFF\xFE";
-        for (const char c : ascii) bytes += std::string({c, '\0'});
-        return bytes;
-    };
+TEST(Parser, ReadsEncodingsAndCountsCharactersHoweverTheyCome) {
     const std::string latin1 = "<?xml version='1.0' encoding='ISO-8859-1'?>\n";
+    std::string many;
+    for (int i = 0; i < 2000; ++i) many += "<book name='" + std::to_string(i) + "' size='2'/>\n";
     struct {
         std::string document;
-        SourcePlace place;
-        const char* why;
+        SourcePlace place;  // of the last book
+        const char *name, *why;
     } const cases[] = {
-        {box("<book/>"), {1, 27}, "columns count from 1"},
-        {box("\n\n  <book/>"), {3, 3}, "line feeds"},
-        {box("\r\n\r\n  <book/>"), {3, 3}, "line ends of two characters are one"},
-        {box("\r\r  <book/>"), {3, 3}, "carriage returns alone"},
-        {box("\r\n\n\r <book/>"), {4, 2}, "all of them"},
-        {box("<!--\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80--><book/>"), {1, 37}, "characters, not bytes"},
-        {box("<!--\xC3\xA9-->\n<!--\xC3\xA9\xC3\xA9--><book/>"), {2, 10}, "of this line only"},
-        {"\xEF\xBB\xBF" + box("<book/>"), {1, 27}, "a byte order mark is no column"},
-        {utf16(box("\n <book/>")), {2, 2}, "two bytes a character"},
-        {latin1 + box("<!--\xE9\xE9--><book/>"), {2, 36}, "one byte a character"},
-        {box(std::string(200'000, ' ') + "\n<book/>"), {2, 1}, "over many blocks"},
-        {box(std::string(200'000, ' ') + "<book/>"), {1, 200'027}, "in one line"},
+        {box("<book/>"), {1, 27}, "", "columns count from 1"},
+        {box("\n\n  <book/>"), {3, 3}, "", "line feeds"},
+        {box("\r\n\r\n  <book/>"), {3, 3}, "", "line ends of two characters are one"},
+        {box("\r\n\n\r <book/>"), {4, 2}, "", "carriage returns alone, and all of them"},
+        {box("<!--\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80--><book/>"), {1, 37}, "", "characters, not bytes"},
+        {box("<!--\xC3\xA9-->\n<!--\xC3\xA9\xC3\xA9--><book/>"), {2, 10}, "", "of this line only"},
+        {"\xEF\xBB\xBF" + box("<book name='\xC3\xA9'/>"), {1, 27}, "\xC3\xA9", "a byte order mark is no column"},
+        {utf16(box("\n <book name='Ab'/>"), true), {2, 2}, "Ab", "two bytes a character"},
+        {utf16(box("\n <book name='Ab'/>"), false), {2, 2}, "Ab", "the other way round"},
+        {latin1 + box("<!--\xE9\xE9--><book name='\xE9'/>"), {2, 36}, "\xC3\xA9", "one byte a character"},
+        {box(std::string(200'000, ' ') + "\n<book/>"), {2, 1}, "", "over many blocks"},
+        {box(std::string(200'000, ' ') + "<book/>"), {1, 200'027}, "", "in one line"},
+        {box(many), {2000, 1}, "1999", "every element anywhere in a block"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(bookAt(asBox(read(c.document)), 0).getPlace(), c.place) << c.why;
-        for (const std::size_t step : {std::size_t{1}, std::size_t{100'000}}) {
-            const auto top = readFrom(SmartPtr<IO::Stream>(new TrickleStream(c.document, step)));
-            EXPECT_EQ(bookAt(asBox(top), 0).getPlace(), c.place) << c.why << ", by " << step;
+        for (const std::size_t step : {0, 1, 7, 100'000, 1'000'000}) {
+            const auto top = step == 0 ? read(c.document) : readFrom(make<TrickleStream>(c.document, step));
+            const Item& last = lastIn(asBox(top));
+            EXPECT_EQ(last.getPlace(), c.place) << c.why << ", by " << step;
+            EXPECT_EQ(last.name->toUtf8(), c.name) << c.why << ", by " << step;
         }
     }
+    ReadOptions options;
+    options.encoding = "ISO-8859-1";
+    EXPECT_EQ(asBox(read(box("", "name='\xE9'"), options)).name->toUtf8(), "\xC3\xA9") << "as the caller says";
+    EXPECT_THROW(read(box("", "name='\xE9'")), Exception) << "no UTF-8";
+    EXPECT_THROW(read("<?xml version='1.0' encoding='latin-9'?>" + box("")), Exception);
 }
 
 TEST(Parser, FailsCleanlyWhereverTheDocumentIsCut) {
     const std::string document = box("<book name='&amp;\xC3\xA9' size='1'/><box><label name='x'/></box><!-- c -->");
     for (std::size_t n = 1; n < document.size(); ++n) {
         EXPECT_THROW(read(document.substr(0, n)), Exception) << "cut at " << n;
-        EXPECT_THROW(readFrom(SmartPtr<IO::Stream>(new TrickleStream(document.substr(0, n), 3))), Exception)
-            << "cut at " << n;
+        EXPECT_THROW(readFrom(make<TrickleStream>(document.substr(0, n), 3)), Exception) << "cut at " << n;
     }
 }
 
@@ -319,15 +247,7 @@ TEST(Records, KnowTheirClass) {
     EXPECT_EQ(record->getParentTypeInfo(), Item::getTypeInfoInstance());
     EXPECT_EQ(record->attributes().front().getName(), "name") << "ancestors' attributes come first";
     EXPECT_TRUE(record->createObject()->isA(Book::typeID()));
-    try {
-        Item::getTypeInfoInstance()->createObject();
-        FAIL();
-    } catch (const Exception& e) {
-        EXPECT_EQ(e.getCode(), 2029);
-        EXPECT_EQ(std::get<String>(e.getArguments().at(0)).toUtf8(), "Item");
-        EXPECT_STREQ(e.getCodeLocation().source, "Item");
-        EXPECT_EQ(e.getCodeLocation().line, 17);
-    }
+    EXPECT_THROW(Item::getTypeInfoInstance()->createObject(), Exception) << "an abstract class";
 }
 
 TEST(Records, SetDefaultsOverWhatWasGiven) {
@@ -357,13 +277,6 @@ std::string repeat(const std::string& text, std::size_t count) {
     return all;
 }
 
-TEST(Limits, Nesting) {
-    const auto nested = [](std::size_t depth) { return box(repeat("<box>", depth - 1) + repeat("</box>", depth - 1)); };
-    EXPECT_EQ(codeOf(nested(Limits::kNestingDepth)), 0);
-    EXPECT_EQ(codeOf(nested(Limits::kNestingDepth + 1)), 3010);
-    EXPECT_EQ(codeOf(box("<z>" + repeat("<box>", Limits::kNestingDepth))), 3010) << "skipped elements count";
-}
-
 // Each level of a recursion would take some hundred bytes of a stack of 8 MB.
 TEST(Tree, OfAnyDepthIsFreedAtOnce) {
     registerLibrary();
@@ -386,39 +299,34 @@ TEST(Tree, OfAnyDepthIsFreedAtOnce) {
     EXPECT_EQ(open->referenceCount(), 1U);
 }
 
-TEST(Limits, Attributes) {
+TEST(Limits, OfDocuments) {
+    const auto nested = [](std::size_t depth) { return box(repeat("<box>", depth - 1) + repeat("</box>", depth - 1)); };
     const auto many = [](std::size_t count, const char* prefix) {
         std::string attributes;
         for (std::size_t i = 0; i < count; ++i) attributes += " " + std::string(prefix) + std::to_string(i) + "='u'";
         return box("", attributes);
     };
+    const std::string huge(Limits::kTagBytes + 200'000, 'x');
     Collector quiet;
     const LogScope scope(quiet);
+    EXPECT_EQ(codeOf(nested(Limits::kNestingDepth)), 0);
+    EXPECT_EQ(codeOf(nested(Limits::kNestingDepth + 1)), 3010);
+    EXPECT_EQ(codeOf(box("<z>" + repeat("<box>", Limits::kNestingDepth))), 3010) << "skipped elements count";
     EXPECT_EQ(codeOf(many(Limits::kAttributes - 1, "a")), 0) << "the namespace is the last one";
     EXPECT_EQ(codeOf(many(Limits::kAttributes, "a")), 3011);
     EXPECT_EQ(codeOf(many(Limits::kAttributes, "xmlns:a")), 3011) << "declarations count";
-}
-
-TEST(Limits, Elements) {
-    Collector quiet;
-    const LogScope scope(quiet);
     EXPECT_EQ(codeOf(box("<z>" + repeat("<y/>", Limits::kElements) + "</z>")), 3012);
-}
-
-TEST(Limits, TagSize) {
-    const std::string huge(Limits::kTagBytes + 200'000, 'x');
     EXPECT_EQ(codeOf(box("<book name='" + huge + "'/>")), 3013);
     EXPECT_EQ(codeOf(box("<!--" + huge + "-->")), 3013);
-    EXPECT_THROW(readFrom(SmartPtr<IO::Stream>(new TrickleStream(box("<!--" + huge), std::size_t{1} << 20))),
-                 Exception);
+    EXPECT_THROW(readFrom(make<TrickleStream>(box("<!--" + huge), std::size_t{1} << 20)), Exception);
 }
 
 TEST(Limits, Warnings) {
     Collector collector;
     const LogScope scope(collector);
     read(box(repeat("<z/>", 1000)));
-    ASSERT_EQ(collector.lines.size(), Limits::kWarnings + 1);
-    EXPECT_EQ(collector.records.back().code, 3014);
+    EXPECT_EQ(collector.count, Limits::kWarnings + 1);
+    EXPECT_TRUE(collector.problems.ends_with("3014; "));
 }
 
 /// Takes three problems of a kind.

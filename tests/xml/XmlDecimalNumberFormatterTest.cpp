@@ -31,16 +31,10 @@ void check(const Case (&cases)[N]) {
 
 TEST(DecimalNumberFormatter, PlacesForDigits) {
     check({
-        {7, "0", "7", ""},
-        {0, "0", "0", ""},
         {7, "000", "007", "filled with zeros"},
         {1234, "000", "1234", "a number is never cut"},
-        {7, "#", "7", ""},
         {0, "#", "0", "zero shows a digit all the same"},
-        {0, "###", "0", "likewise"},
-        {3.14159F, "0.00", "3.14", ""},
         {3, "0.00", "3.00", "filled behind the point"},
-        {3.1F, "0.0#", "3.1", "places that may stay empty"},
         {3.125F, "0.0##", "3.125", "or not"},
         {3, "0.##", "3", "no point without digits behind it"},
         {3, "0.", "3.", "but where the pattern ends in it"},
@@ -49,39 +43,25 @@ TEST(DecimalNumberFormatter, PlacesForDigits) {
         {0.5F, ".##", ".5", "no place before the point"},
         {12.5F, ".0", "12.5", "but a number is never cut"},
         {0, ".##", ".0", "zero shows a digit"},
-        {0, "#.##", "0", "likewise"},
-        {0.5F, "00.0", "00.5", ""},
-        {12.34F, "0#", "12", "a # behind a 0 is a place"},
-        {5, "0#", "05", "that shows a digit"},
+        {5, "0#", "05", "a # behind a 0 is a place that shows a digit"},
         {1.5F, "0.#0", "1.50", "a # before a 0 behind the point too"},
     });
 }
 
 TEST(DecimalNumberFormatter, RoundsHalfAwayFromZeroOnTheShortestDecimal) {
     check({
-        {0.15F, "0.0", "0.2", "0.15 as written, not 0.150000006"},
-        {0.25F, "0.0", "0.3", "exactly half"},
         {0.35F, "0.0", "0.4", "0.35 as written, not 0.349999994"},
-        {2.5F, "0", "3", "not to even"},
-        {-2.5F, "0", "-3", "away from zero"},
-        {0.5F, "0", "1", ""},
-        {0.49F, "0", "0", ""},
+        {-2.5F, "0", "-3", "away from zero, not to even"},
         {9.995F, "0.00", "10.00", "the carry lengthens it"},
-        {99.5F, "0", "100", "likewise"},
-        {1.005F, "0.00", "1.01", "1.005 as written"},
         {-0.004F, "0.00", "0.00", "what rounds to zero has no sign"},
-        {-0.0F, "0.0", "0.0", "neither has negative zero"},
         {-0.005F, "0.00", "-0.01", "this is not zero"},
-        {0.049F, "0.0", "0.0", "a digit behind the last place alone does not round up"},
     });
 }
 
 TEST(DecimalNumberFormatter, GroupsByTheDistanceOfTheLastComma) {
     check({
-        {1234567, "#,##0", "1,234,567", ""},
-        {123, "#,##0", "123", "no separator in front"},
-        {1000, "#,##0.00", "1,000.00", ""},
         {-123456, "#,##0", "-123,456", "none behind the sign"},
+        {1234567, "#,##0", "1,234,567", ""},
         {12345678, "#,####", "1234,5678", "groups of four"},
         {1234567, "#,##,##0", "1,234,567", "the last comma counts"},
         {1234, "0,0", "1,2,3,4", "groups of one"},
@@ -93,36 +73,29 @@ TEST(DecimalNumberFormatter, GroupsByTheDistanceOfTheLastComma) {
 
 TEST(DecimalNumberFormatter, PercentAndPerMille) {
     check({
-        {0.256F, "0%", "26%", ""},
         {0.256F, "0.0%", "25.6%", ""},
         {0.29F, "0%", "29%", "exactly, where a product of floats is 28.999999"},
-        {1.5F, "0 %", "150 %", "a blank before the sign"},
         {0.25F, "%0", "%25", "in front"},
         {0.0256F, "0.0\xE2\x80\xB0", "25.6\xE2\x80\xB0", "per mille"},
         {0.256F, "0.0'%'", "0.3%", "quoted it is only a character"},
         {-0.001F, "0%", "0%", "rounded after the multiplication"},
-        {12.5F, "#,##0%", "1,250%", "grouped after it"},
     });
 }
 
 TEST(DecimalNumberFormatter, WhatStandsAroundTheDigits) {
     check({
-        {5, "$0.00", "$5.00", ""},
         {-5, "$0.00", "-$5.00", "the sign comes first"},
-        {5, "0 km/h", "5 km/h", ""},
         {5, "0 \xE2\x82\xAC", "5 \xE2\x82\xAC", "beyond ASCII"},
         {5, "'#'0", "#5", "quoted"},
         {5, "0 'per ''pair'''", "5 per 'pair'", "two quotes are one, inside quotes"},
         {5, "0''", "5'", "and outside"},
         {5, "0'it", "5it", "a quote not closed"},
-        {5, "0'", "5", "a quote at the end"},
         {5, "approx. 0.0", "approx. 5.0", "a point without digits around it is a character"},
         {5, "0.0 (1.0)", "5.0 (1.0)", "digits once; later ones are characters"},
         {5, "0.0.0", "5.0.0", "a second point ends them"},
         {-5, "0;(0)", "(5)", "a form for negative numbers"},
         {5, "0;(0)", "5", "does not touch positive ones"},
         {-1234.5F, "#,##0.00;(0)", "(1,234.50)", "its digits do not count"},
-        {-5, "0;0-", "5-", "sign behind"},
         {-5, "0;", "-5", "an empty form: the sign must show"},
         {-5, "0 m;0 m", "-5 m", "a form like the positive one: likewise"},
         {-5, "0;(0);[0]", "(5);[0]", "two forms; the rest is characters"},
@@ -147,7 +120,6 @@ TEST(DecimalNumberFormatter, ExtremeNumbers) {
         {3e38F, "#,##0", "300,000,000,000,000,000,000,000,000,000,000,000,000",
          "the digits that are known, then zeros"},
         {1e-45F, "0.00", "0.00", "smallest number"},
-        {1e-10F, "0.0000000000", "0.0000000001", ""},
         {16777216, "0", "16777216", "last integer that single precision counts to"},
         {kInfinity, "0.00", "Infinity", ""},
         {-kInfinity, "0;(0)", "(Infinity)", "in its form"},
@@ -158,27 +130,13 @@ TEST(DecimalNumberFormatter, ExtremeNumbers) {
 
 TEST(DecimalNumberFormatter, Settings) {
     EXPECT_EQ(format(-1234.5F, "#,##0.00", ",", "."), "-1.234,50") << "German separators";
-    EXPECT_EQ(format(1234.5F, "#,##0.0", "", "'"), "1'234.5") << "an empty setting leaves the usual one";
-    EXPECT_EQ(format(1234567, "#,##0", "", "\xC2\xA0"),
-              "1\xC2\xA0"
-              "234\xC2\xA0"
-              "567")
-        << "no-break space";
-    EXPECT_EQ(format(-5, "0.0", ",", "", "\xE2\x88\x92"),
-              "\xE2\x88\x92"
-              "5,0")
-        << "a real minus sign";
+    EXPECT_EQ(format(1234.5F, "#,##0.0", "", "\u00a0"), "1\u00a0234.5") << "an empty setting leaves the usual one";
     EXPECT_EQ(format(-5, "0;-0 CR", "", "", "~"), "~5 CR") << "a hyphen in a form is the minus sign";
     EXPECT_EQ(format(-5, "0;'-'0", "", "", "~"), "-5") << "quoted it is a hyphen";
     EXPECT_EQ(format(-5, "0", "", "", "minus "), "minus 5") << "more than one character";
 }
 
-TEST(DecimalNumberFormatter, OneFormatterForAll) {
-    EXPECT_EQ(&XmlDecimalNumberFormatter::get(), &XmlDecimalNumberFormatter::get());
-}
-
 TEST(Limits, NumberPattern) {
-    EXPECT_EQ(format(7, std::string(1000, '0').c_str()).size(), 1000U);
     EXPECT_EQ(format(7, std::string(5'000'000, '0').c_str()).size(), Limits::kNumberPattern);
     EXPECT_EQ(format(7, (std::string(5'000'000, 'x') + "0").c_str()).size(), Limits::kNumberPattern + 1);
     EXPECT_EQ(format(0.5F, ("0." + std::string(5'000'000, '0')).c_str()).size(), Limits::kNumberPattern);

@@ -1,12 +1,51 @@
-#include "vexa/support/drawing/Path.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <sstream>
+#include <tuple>
+
+#include "vexa/support/drawing/Matrix.h"
+#include "vexa/support/drawing/Path.h"
 
 namespace VEXA {
 namespace {
+
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+
+TEST(Matrix, HasTheElementsWorkedOutByHand) {
+    const auto start = [] { return Matrix(); };
+    const std::tuple<const char*, Matrix, std::array<float, 6>> cases[] = {
+        {"what is added last comes first", start().scale(2, 3).translate(10, 20), {2, 0, 0, 3, 20, 60}},
+        {"a quarter turns x to y, downward", start().rotate(90), {0, 1, -1, 0, 0, 0}},
+        {"a half turn leaves no trace of sin π", start().rotate(180), {-1, 0, 0, -1, 0, 0}},
+        {"full turns do not count: 3690 = 10 x 360 + 90", start().rotate(3690), {0, 1, -1, 0, 0, 0}},
+        {"sine 1/2, cosine √3/2", start().rotate(30), {0.8660254F, 0.5F, -0.5F, 0.8660254F, 0, 0}},
+        {"an infinite angle does not turn", start().rotate(kInfinity), {1, 0, 0, 1, 0, 0}},
+        {"nor does one that is no number", start().rotate(kNaN), {1, 0, 0, 1, 0, 0}},
+        {"x' = 10 - (y - 20), y' = 20 + (x - 10)", start().rotateAt(90, {10, 20}), {0, 1, -1, 0, 30, 10}},
+        {"a skew along x moves x, one along y moves y", start().shear(0.5F, 0.25F), {1, 0.25F, 0.5F, 1, 0, 0}},
+        // 1 x 7 + 3 x 8, 2 x 7 + 4 x 8, 1 x 9 + 3 x 10, 2 x 9 + 4 x 10, 1 x 11 + 3 x 12 + 5, 2 x 11 + 4 x 12 + 6
+        {"row by row", Matrix(1, 2, 3, 4, 5, 6).multiply({7, 8, 9, 10, 11, 12}), {31, 46, 39, 58, 52, 76}},
+    };
+    for (const auto& [why, matrix, elements] : cases) {
+        for (std::size_t i = 0; i < 6; ++i) EXPECT_FLOAT_EQ(matrix.getElements()[i], elements[i]) << why << i;
+    }
+}
+
+TEST(Matrix, TakesPointsFromTheInnerSpaceToTheOuter) {
+    const Matrix matrix = Matrix().translate(100, 50).rotate(90).scale(2, 3);
+    EXPECT_EQ(matrix.apply({1, 0}), (PointF{100, 52})) << "x scaled by 2, then turned downward";
+    EXPECT_EQ(matrix.apply({0, 1}), (PointF{97, 50})) << "y scaled by 3, then turned to the left";
+}
+
+TEST(Matrix, KnowsItsKind) {
+    EXPECT_TRUE(Matrix().isIdentity() && !Matrix().translate(0.001F, 0).isIdentity());
+    EXPECT_TRUE(Matrix().translate(1, 2).scale(-3, 4).isScaleAndTranslate() && Matrix().isFinite());
+    EXPECT_FALSE(Matrix().rotate(90).isScaleAndTranslate());
+    EXPECT_FALSE(Matrix().scale(kInfinity, 1).isFinite() || Matrix().translate(0, kNaN).isFinite());
+}
 
 /// `M0,0 L10,0 Z`, numbers to three decimals at most.
 std::string textOf(const Path& path) {
@@ -39,13 +78,8 @@ TEST(Path, KeepsTheVerbsInTheOrderOfTheCalls) {
 }
 
 TEST(PathCommand, MakesShapes) {
-    struct Case {
-        const char* why;
-        SmartPtr<Path> path;
-        const char* text;
-    };
     const char* const square = "M1,2 L31,2 L31,42 L1,42 Z";
-    const Case cases[] = {
+    const std::tuple<const char*, SmartPtr<Path>, const char*> cases[] = {
         {"clockwise from the top left", PathCommand::rectangle(1, 2, 30, 40, 0, 0), square},
         {"one radius alone does not round", PathCommand::rectangle(1, 2, 30, 40, 5, 0), square},
         {"a negative radius does not round", PathCommand::rectangle(1, 2, 30, 40, -5, 5), square},
@@ -63,7 +97,7 @@ TEST(PathCommand, MakesShapes) {
         {"a line of no length, for round caps", PathCommand::polygon({{3, 4}}, false), "M3,4 L3,4"},
         {"no points, nothing", PathCommand::polygon({}, true), ""},
     };
-    for (const Case& c : cases) EXPECT_EQ(textOf(*c.path), c.text) << c.why;
+    for (const auto& [why, path, text] : cases) EXPECT_EQ(textOf(*path), text) << why;
 }
 
 }  // namespace
