@@ -90,4 +90,42 @@ inline std::string displayList(const Drawing& draw) {
     return between(documentOf<DisplayListSurface>(draw), "\"height\":100}\n", "{\"op\":\"endPage\"}");
 }
 
+/// Every operation with `number` in each place that takes one, and `text` in each place that takes a text.
+inline void drawEverything(RenderContext& c, float number, const String& text) {
+    const SmartPtr<RenderContext> surface(&c);
+    for (int place = 0; place < 12; ++place) {
+        const auto at = [&](int i, float usual) { return i == place ? number : usual; };
+        const RenderContextScope scope(surface);
+        if (place == 1) c.setClip(PathCommand::ellipse(number, 0, 1, number));
+        if (place == 2) c.setClip(PathCommand::rectangle(number, 0, 1, number, 0, 0));
+        if (place == 3) c.addTranslateTransform(number, 1);
+        if (place == 4) c.addRotateTransform(number);
+        if (place == 5) c.addScaleTransform(1, number);
+        if (place >= 3 && place <= 5) c.setClip(PathCommand::rectangle(0, 0, 1, 1, 0, 0));
+        const SmartPtr<GradientBrush> gradient = redToBlue(GradientUnits(place % 2));
+        gradient->addStop(at(6, 1), colorOf(0), at(7, 1));
+        gradient->setOpacity(at(8, 1));
+        gradient->addMatrixTransform(at(9, 1), 0, 0, 1, 0, 0);
+        const SmartPtr<GradientBrush> radial =
+            make<RadialGradientBrush>(at(6, 5), at(7, 5), at(8, 5), at(9, 6), GradientUnits(), GradientSpreadMethod());
+        radial->setStops(gradient->getStops());
+        const SmartPtr<Stroke> stroke = make<Stroke>(radial, at(10, 2));
+        stroke->setDashArray({at(6, 1), 2});
+        stroke->setDashOffset(at(7, 1));
+        stroke->setMiterLimit(at(8, 3));
+        c.setFill(gradient);
+        c.setStroke(stroke);
+        c.setFont(fontOf(text, at(11, 12)));
+        c.drawLine(at(6, 0), at(7, 0), at(8, 1), at(9, 1));
+        c.drawRectangle(at(6, 0), at(7, 0), at(8, 1), at(9, 1), at(10, 0), at(11, 1));
+        c.drawEllipse(at(6, 0), at(7, 0), at(8, 1), at(9, 1));
+        c.drawPolygon({{at(6, 0), at(7, 0)}, {at(8, 1), at(9, 1)}, {5, 5}}, place % 2 == 0);
+        c.drawText(text, 1000, at(6, 0), at(7, 0), at(8, 0), 0);
+    }
+}
+
+/// Numbers that take a writer to its limits.
+inline constexpr float kHostileNumbers[] = {0.0F,          -0.0F,          1.0F / 3, -1.0F,     1e9F,       1e20F,
+                                            3.4028235e38F, -3.4028235e38F, 1e-45F,   kInfinity, -kInfinity, kNaN};
+
 }  // namespace VEXA
