@@ -42,12 +42,14 @@ TEST(Program, TellsEveryFaultInOneLineWithItsPlaceAndLeavesNoFile) {
 
 TEST(Program, WarnsOfElementsItCannotUseAndDrawsTheRest) {
     const TestDirectory directory;
-    directory.write("chart.xml", kOpen + "  <tilte value='a'/><root/><serie/>\n<title value='kept'/></root>");
+    directory.write("chart.xml",
+                    kOpen + "  <tilte value='a'/><root/><serie/>\n<title value='kept' grouping='stacked'/></root>");
     const Outcome told = run(directory, "render chart.xml -o chart.svg");
     EXPECT_EQ(told.status, 0);
     EXPECT_TRUE(startsWith(told.errors, "chart.xml:2:3: warning: ")) << told.errors;
     for (const char* help :
-         {"did you mean \"title\"?", "no element takes it", "inside <area-chart>, <bar-chart> or <line-chart>"}) {
+         {"\"title\" and is ignored; write it on <area-chart>, <bar-chart> or <line-chart>", "did you mean \"title\"?",
+          "no element takes it", "inside <area-chart>, <bar-chart> or <line-chart>"}) {
         EXPECT_NE(told.errors.find(help), std::string::npos) << told.errors;
     }
     EXPECT_NE(directory.read("chart.svg").find("kept"), std::string::npos);

@@ -90,7 +90,6 @@ TEST(Parser, CollectsEveryProblemWithItsPlaceAndTellsWhatWouldDo) {
         {box("<book size='1' Size='2'/>"), "1:27: warning 3007; ", "did you mean \"size\"?", "of an attribute"},
         {box("<zzzzzzzzz/><book qqqqqqqqqqq='1'/>"), "1:27: warning 3004; 1:39: warning 3006; ", "", "no near name"},
         {box("<bok><book size='big'/></bok>"), "1:27: warning 3005; ", "", "in an unknown element nothing is read"},
-        {box("<label pages='3'/>"), "1:27: warning 3021; ", "write it on <book>", "another element's attribute"},
         {box("<book><label/></book>"), "1:33: warning 3018; ",
          "element \"label\" may not stand in \"book\" and is skipped; write it inside <box>", "in a wrong place"},
         {box("<book l:size='4' size='big' xmlns:l='urn:library'/><book size='4' l:size='5' xmlns:l='urn:library'/>"),
