@@ -162,6 +162,33 @@ TEST(PngLimits, RefusesBeforeItAllocates) {
     }
 }
 
+// Under a clip without an inside nothing is painted, but counted.
+TEST(PngLimits, ShapesOverShapes) {
+    constexpr float kSide = 10'000;
+    const struct {
+        const char* why;
+        Drawing draw;
+        double fits;
+    } cases[] = {
+        {"areas", painted(solid(0), nullptr, [](auto& c) { c.drawRectangle(0, 0, kSide, kSide, 0, 0); }), 1000},
+        {"those of a gradient",
+         painted(redToBlue(), nullptr, [](auto& c) { c.drawRectangle(0, 0, kSide, kSide, 0, 0); }), 125},
+        {"a fourth of an area on the page",
+         painted(solid(0), nullptr, [](auto& c) { c.drawRectangle(kSide / 2, kSide / 2, 9e5F, 9e5F, 0, 0); }), 4000},
+        {"outlines as well", painted(solid(0), pen(0), [](auto& c) { c.drawRectangle(0, 0, kSide, kSide, 0, 0); }),
+         500},
+        {"a broad line", painted(nullptr, pen(0, 3 * kSide), [](auto& c) { c.drawLine(0, 0, 0, 1); }), 1000},
+    };
+    for (const auto& c : cases) {
+        const auto png = CairoSurface::png(make<IO::MemoryStream>());
+        png->beginDocument();
+        png->beginPage({kSide, kSide});
+        png->setClip(PathCommand::rectangle(0, 0, 0, 0, 0, 0));
+        for (double i = 0; i < c.fits; ++i) c.draw(*png);
+        EXPECT_EQ(codeOf([&] { c.draw(*png); }), 35008) << c.why;
+    }
+}
+
 TEST(CairoSurface, PagesComeInOrder) {
     const auto png = CairoSurface::png(make<IO::MemoryStream>());
     EXPECT_THROW(png->endPage(), UnreacheableCodeException) << "none was begun";

@@ -64,6 +64,10 @@ inline constexpr double kRasterCoordinate = 2e6;
 /// Test: PngLimits.RefusesBeforeItAllocates
 inline constexpr int kRasterSide = 32'767;
 inline constexpr double kRasterBytes = 1'073'741'824;
+/// Pixels that the shapes of a PNG lie over, about a minute; those of a gradient or a text count eight times. 45,000
+/// gradients of a document of a megabyte, each over all of the largest picture, would take nine hours.
+/// Test: PngLimits.ShapesOverShapes
+inline constexpr double kPaintedPixels = 100'000'000'000.0;
 /// Largest side of a page of a PDF, in px: 200 inches, beyond which viewers refuse it. Test: PdfLimits.PageSize
 inline constexpr float kPdfSide = 19'200.0F;
 /// Bytes that a page of a PDF takes until it ends, see PageRecord. A million grid lines of a document of 9 KB take one

@@ -213,6 +213,9 @@ constexpr Message kMessages[] = {
      "the page has more shapes and texts than the PDF of a page can be made of in 1 GiB of memory; draw fewer, or "
      "write "
      "an SVG or a PNG"},
+    {35008,
+     "the shapes of a picture of {0} by {1} pixels lie over each other so often that painting it would take minutes; "
+     "take a smaller scale or a smaller chart, or write an SVG"},
 
     // The program.
     {35100, "there is not enough memory"},

@@ -15,14 +15,14 @@ namespace VEXA {
     X(font_options_set_hint_style) X(ft_font_face_create_for_ft_face) X(get_source) X(image_surface_create) \
     X(image_surface_create_for_data) X(image_surface_get_data) X(image_surface_get_stride) X(line_to) X(mask) \
     X(mask_surface) X(matrix_invert) X(matrix_multiply) X(move_to) X(new_path) X(paint) X(paint_with_alpha) \
-    X(pattern_add_color_stop_rgba) X(pattern_create_linear) X(pattern_create_radial) X(pattern_destroy) \
-    X(pattern_set_extend) X(pattern_set_filter) X(pattern_set_matrix) X(pdf_surface_create_for_stream) \
-    X(pdf_surface_set_metadata) X(pdf_surface_set_size) X(pop_group) X(pop_group_to_source) X(push_group) \
-    X(push_group_with_content) X(restore) X(save) X(set_dash) X(set_fill_rule) X(set_font_face) X(set_font_matrix) \
-    X(set_font_options) X(set_line_cap) X(set_line_join) X(set_line_width) X(set_matrix) X(set_miter_limit) \
-    X(set_operator) X(set_source) X(set_source_rgba) X(set_source_surface) X(show_page) X(show_text_glyphs) X(status) \
-    X(status_to_string) X(stroke) X(surface_destroy) X(surface_finish) X(surface_flush) X(surface_mark_dirty) \
-    X(surface_status)
+    X(path_extents) X(pattern_add_color_stop_rgba) X(pattern_create_linear) X(pattern_create_radial) \
+    X(pattern_destroy) X(pattern_set_extend) X(pattern_set_filter) X(pattern_set_matrix) \
+    X(pdf_surface_create_for_stream) X(pdf_surface_set_metadata) X(pdf_surface_set_size) X(pop_group) \
+    X(pop_group_to_source) X(push_group) X(push_group_with_content) X(restore) X(save) X(set_dash) X(set_fill_rule) \
+    X(set_font_face) X(set_font_matrix) X(set_font_options) X(set_line_cap) X(set_line_join) X(set_line_width) \
+    X(set_matrix) X(set_miter_limit) X(set_operator) X(set_source) X(set_source_rgba) X(set_source_surface) \
+    X(show_page) X(show_text_glyphs) X(status) X(status_to_string) X(stroke) X(surface_destroy) X(surface_finish) \
+    X(surface_flush) X(surface_mark_dirty) X(surface_status)
 // clang-format on
 
 /// The functions of cairo that surfaces use, under their names without `cairo_`.

@@ -12,6 +12,7 @@ void CairoPainter::begin(const CairoCanvas& canvas) {
     scale_ = canvas.scale;
     glyphs_ = canvas.glyphs;
     record_ = canvas.record;
+    pixels_ = canvas.pixels;
     clips_.clear();
     dashes_.renew();
     cairo().set_fill_rule(context_, CAIRO_FILL_RULE_EVEN_ODD);
@@ -50,6 +51,10 @@ void CairoPainter::shape(const DrawingState& state, const Path& path) {
             outline = onFlatBox(outline);
         }
     }
+    if (pixels_ != nullptr) {
+        const bool isStroked = outline.paints();
+        countPixels(inside, outline, isStroked ? state.stroke->getThickness() * enlargementOf(matrix) : 0);
+    }
     if (inside.paints()) {
         setSource(context_, inside, box, matrix);
         cairo().fill_preserve(context_);
@@ -64,6 +69,7 @@ void CairoPainter::text(const DrawingState& state, const String& text, PointF at
     if (text.isEmpty() || !hasPlace || !state.font || !(state.font->getFontSize() > 0) || !paint.paints()) return;
     const PlacedText placed = placeText(text, state.font, at, spacing);
     if (!enter(state, matrix)) return;
+    if (pixels_ != nullptr) pixels_->addText(placed.box, matrix);
     setSource(context_, placed.box.isFlat() ? onFlatBox(paint) : paint, placed.box, matrix);
     for (const PlacedRun& run : placed.runs) glyphs_->paint(context_, run, matrix, paint.opacity);
 }
@@ -75,12 +81,19 @@ bool CairoPainter::enter(const DrawingState& state, cairo_matrix_t& matrix) {
     return true;
 }
 
+void CairoPainter::countPixels(const Paint& inside, const Paint& outline, double penWidth) {
+    PathBox box;
+    cairo().path_extents(context_, &box.left, &box.top, &box.right, &box.bottom);
+    pixels_->addShape(box, inside);
+    pixels_->addShape({box.left - penWidth, box.top - penWidth, box.right + penWidth, box.bottom + penWidth}, outline);
+}
+
 void CairoPainter::stroke(const Stroke& stroke, const Paint& paint, const Path& path, const PathBox& box,
                           const cairo_matrix_t& matrix) {
     static constexpr cairo_matrix_t kIdentity{1, 0, 0, 1, 0, 0};
     setSource(context_, paint, box, matrix);
     const StrokeStyle style(stroke, path, matrix, dashes_);
-    if (record_ == nullptr && isLongPolyline(path)) {
+    if (pixels_ != nullptr && isLongPolyline(path)) {
         strokeInPieces(context_, style, path, matrix);
         return;
     }

@@ -29,6 +29,8 @@ public:
 private:
     /// Enters the clip and gives the transform in force; false when nothing is to be drawn in it.
     bool enter(const DrawingState& state, cairo_matrix_t& matrix);
+    /// Counts what painting the current path takes, with a pen of so many pixels.
+    void countPixels(const Paint& inside, const Paint& outline, double penWidth);
     void stroke(const Stroke& stroke, const Paint& paint, const Path& path, const PathBox& box,
                 const cairo_matrix_t& matrix);
 
@@ -36,6 +38,7 @@ private:
     double scale_ = 1;
     GlyphPainter* glyphs_ = nullptr;
     PageRecord* record_ = nullptr;  ///< null for pixels
+    PixelWork* pixels_ = nullptr;   ///< null for others
     ClipStack clips_;
     DashBudget dashes_;
 };

@@ -40,7 +40,7 @@ CairoCanvas PdfPages::beginPage(const SizeF& size) {
     record_.renew();
     startPage(size.width * kPointsPerPixel, size.height * kPointsPerPixel);
     if (options_.background) paintBackground(context_.get(), *options_.background);
-    return {context_.get(), kPointsPerPixel, &glyphs_, &record_};
+    return {context_.get(), kPointsPerPixel, &glyphs_, &record_, nullptr};
 }
 
 void PdfPages::startPage(double width, double height) {

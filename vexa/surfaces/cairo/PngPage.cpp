@@ -34,8 +34,9 @@ CairoCanvas PngPage::beginPage(const SizeF& size) {
     requireSuccess(cairo().surface_status(image_.get()));
     context_.reset(cairo().create(image_.get()));
     glyphs_.emplace(size_.width, size_.height);
+    work_.emplace(size_.width, size_.height);
     if (options_.background) paintBackground(context_.get(), *options_.background);
-    return {context_.get(), options_.scale, &*glyphs_, nullptr};
+    return {context_.get(), options_.scale, &*glyphs_, nullptr, &*work_};
 }
 
 void PngPage::endPage() { context_.reset(); }

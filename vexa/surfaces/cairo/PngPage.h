@@ -4,6 +4,7 @@
 
 #include "vexa/surfaces/cairo/CairoPages.h"
 #include "vexa/surfaces/cairo/CairoSurface.h"
+#include "vexa/surfaces/cairo/PixelWork.h"
 #include "vexa/surfaces/cairo/RasterGlyphs.h"
 
 namespace VEXA {
@@ -31,6 +32,7 @@ private:
     CairoPtr<cairo_surface_t> image_;
     CairoPtr<cairo_t> context_;
     std::optional<RasterGlyphs> glyphs_;
+    std::optional<PixelWork> work_;
 };
 
 }  // namespace VEXA
