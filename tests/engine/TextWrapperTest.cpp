@@ -31,23 +31,6 @@ std::string wrapped(const char* text, float characters, WrapMode mode) {
     return lines.empty() ? lines : lines + ']';
 }
 
-/// Measures like the fixed-width fonts, W being ten times as wide; counts the characters that it is asked for.
-struct CountingFonts final : FontService {
-    struct Program final : FontProgram {
-        explicit Program(std::size_t& count) : measured(count) {}
-        FontMetrics getMetrics() const noexcept override { return {1000, 800, 200}; }
-        int measureString(const String& text) const override {
-            int width = 0;
-            for (const char32_t c : text.view()) width += c == U'W' ? 6000 : 600;
-            measured += text.length();
-            return width;
-        }
-        std::size_t& measured;
-    };
-    SmartPtr<FontProgram> getFont(const Font&) override { return make<Program>(measured); }
-    std::size_t measured = 0;
-};
-
 TEST(TextWrapper, BreaksBetweenWordsAndSplitsWhatIsTooLong) {
     const WithFonts fonts(std::make_shared<CountingFonts>());
     const float infinity = std::numeric_limits<float>::infinity();
