@@ -33,7 +33,6 @@ TEST(PlotData, KindsOfTheAxesFollowTheData) {
         ValueKind categories, values;
         const char* why;
     } cases[] = {
-        {"", "", "", ValueKind::Number, ValueKind::Number, "no data"},
         {"", "", lineChart("A=1 B=2"), ValueKind::Text, ValueKind::Number, "texts and numbers"},
         {"", "", lineChart("2024-01-01=1 2024-01-02=x"), ValueKind::Date, ValueKind::Number, "a tie is numeric"},
         {"", "", lineChart("A=1 =x =y"), ValueKind::Text, ValueKind::Number, "points without category do not count"},
