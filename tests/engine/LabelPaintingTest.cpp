@@ -90,15 +90,12 @@ TEST(LabelPainting, CaptionsKeepClearOfTheLabels) {
         const char* why;
     } cases[] = {
         {values(upright, ""), "0 -10,105; 10 -16,5; Rain -21,62 turned -90; ", "12 + 4 + 3 + 2 px left, 24 px long"},
-        {values(upright + "intersection='at-maximum'", ""), "0 204,105; 10 204,5; Rain 221,38 turned 90; ", "right"},
         {values(upright, "draw-values='false'"), "Rain -5,62 turned -90; ", "no labels, no offset of theirs"},
         {categories("intersection='at-minimum' caption='Town'", "offset='6'"),
          "A -3,116; B 97,116; C 197,116; Town 88,130; ", "10 + 10 + 6 + 4 px below"},
         {categories("caption='Town'", ""), "A -3,114; B 97,114; C 197,114; Town 88,128; ", "at the foot, not at zero"},
         {categories("caption='Town'", "draw-at-min='false'"), "A -3,64; B 97,64; C 197,64; Town 88,114; ",
          "nothing between the caption and the foot"},
-        {categories("caption='Town' intersection='at-maximum'", ""), "A -3,-4; B 97,-4; C 197,-4; Town 88,-20; ",
-         "10 + 4 + 4 + 2 px above"},
         {categories("caption='  '", "draw-values='false'"), "", "a blank caption is none"},
     };
     for (const auto& c : cases) EXPECT_EQ(textsOf(c.xml), c.texts) << c.why;

@@ -59,8 +59,6 @@ TEST(Legend, ItemsStandInARowAndOneTooManyMakesAList) {
         ASSERT_EQ(row[i].clips.size(), 2U) << "the page's clip and its own, which leaves the outline whole";
         EXPECT_EQ(row[i].clips[1], "-2,-2 120,-2 120,102 -2,102 | 1 0 0 1 20 30");
     }
-    EXPECT_EQ(captionsOf(kFree + "width='117' padding='5'", kThree), "One@19,15 Two@19,27 Six@19,39")
-        << "108 px in 107";
     EXPECT_EQ(captionsOf(kFree + "width='118' padding='5'", kThree + item("Ten")),
               "One@19,15 Two@19,27 Six@19,39 Ten@19,51")
         << "12 px each, a line and the gap below it";

@@ -1,68 +1,30 @@
-#include "tests/engine/StyleTestTools.h"
+#include "tests/engine/EngineTestTools.h"
+#include "vexa/pie/VexaPie.h"
 
 namespace VEXA::Testing {
 namespace {
 
-/// An area of the document that tells what is asked of it.
-template <class Area>
-struct Probe final : Area {
-    Probe(std::string areaName, std::string& allEvents) : name(std::move(areaName)), events(allEvents) {}
-    void render(VexaRenderContext&) override { events += "render " + name + ", "; }
-    void preRender(VexaRenderContext&, SmartPtr<VexaTheme> given) override {
-        events += "pre-render " + name + ", ";
-        theme = given;
-    }
-    int getSerieCount() override { return serieCount; }
+TEST(Root, ThemeGoesToTheFirstBodyAndTheLegend) {
+    const auto fills = [](const std::string& theme, const std::string& bodies) {
+        const std::string items = "<legend-item label='square'/><legend-item label='square'/>";
+        std::string text;
+        for (const auto& call : drawingCalls(rootWith(theme, bodies + "<legend>" + items + "</legend>")))
+            text += call.fill.empty() ? "" : call.fill + ' ';
+        return text;
+    };
+    const std::string two = "<pie><slice value='1'/><slice value='1'/></pie>";
+    const std::string three = "<pie><slice value='1'/><slice value='1'/><slice value='1'/></pie>";
+    EXPECT_EQ(fills("theme='red-flat'", two + three), "#933d3b #cf7977 #933d3b #cf7977 ")
+        << "the palette has the colours of the first body: its slices, no others, and the items";
+    EXPECT_EQ(fills("theme='red-flat'", ""), "#c0504d #c0504d ") << "the palette is empty: the base colour";
+    EXPECT_EQ(fills("theme='none'", two), "") << "no theme";
 
-    std::string name;
-    std::string& events;
-    int serieCount = 1;
-    SmartPtr<VexaTheme> theme;
-};
-
-void attach(VexaRoot& root, const char* element, XmlObject* child) {
-    ASSERT_TRUE(root.getTypeInfo()->findElement(element)->attach(root, child));
-    child->setParent(&root);
-}
-
-/// A root with a legend and bodies, of which the first is no area.
-struct ProbedRoot {
-    explicit ProbedRoot(const std::string& attributes, bool hasBodies = true) : root(load(rootWith(attributes, ""))) {
-        attach(*root, "legend", legend.get());
-        if (!hasBodies) return;
-        attach(*root, "spider", make<VexaTitle>().get());
-        attach(*root, "spider", first.get());
-        attach(*root, "pie", second.get());
-    }
-    std::string renderOnce() {
-        events.clear();
-        root->render(make<NullSurface>(), 800, 600);
-        return events;
-    }
-
-    std::string events;
-    SmartPtr<Probe<VexaAreaObject>> first = make<Probe<VexaAreaObject>>("first", events);
-    SmartPtr<Probe<VexaAreaObject>> second = make<Probe<VexaAreaObject>>("second", events);
-    SmartPtr<Probe<VexaLegend>> legend = make<Probe<VexaLegend>>("legend", events);
-    XmlObjPtr<VexaRoot> root;
-};
-
-TEST(Root, ThemeGoesToTheFirstBodyAndTheLegendOnceForATree) {
-    const std::string renders = "render first, render second, render legend, ";
-    const std::string base = "#c0504d/1";  // what every index beyond the palette gets
-    ProbedRoot probed("theme='red-flat'");
-    probed.first->serieCount = 2;
-    probed.second->serieCount = 7;
-    EXPECT_EQ(probed.renderOnce(), "pre-render first, pre-render legend, " + renders);
-    EXPECT_EQ(probed.first->theme, probed.legend->theme) << "one theme for both";
-    EXPECT_NE(describe(probed.first->theme->getSerieFill(1)), base) << "a colour for each series of the first body";
-    EXPECT_EQ(describe(probed.first->theme->getSerieFill(2)), base);
-    EXPECT_EQ(probed.renderOnce(), renders) << "what was handed out stays";
-    EXPECT_EQ(ProbedRoot("theme='none'").renderOnce(), renders) << "without a theme nothing is handed out";
-
-    ProbedRoot bodiless("theme='red-flat'", false);
-    EXPECT_EQ(bodiless.renderOnce(), "pre-render legend, render legend, ");
-    EXPECT_EQ(describe(bodiless.legend->theme->getSerieFill(0)), base) << "the palette is empty";
+    const auto root = load(rootWith("theme='red-flat'", two));
+    root->render(make<NullSurface>(), 800, 600);
+    give(*root, "theme=blue-flat");
+    root->render(make<NullSurface>(), 800, 600);
+    const auto& slice = static_cast<VexaPie&>(*root->getBodies()[0]).getSlices()[0];
+    EXPECT_EQ(describe(slice->getFillBrush(ColorAspect::Normal, 0.5F)), "#933d3b/1") << "once for a tree";
 }
 
 TEST(Root, PaintsBackgroundBodiesAndTitleInThisOrder) {
