@@ -114,6 +114,8 @@ TEST(SliceCaption, ClockAngleCountsFrom12OClock) {
         {270, 180, "6 o'clock"},
         {405, 45, "in between"},
         {-270, 360, "whole turns"},
+        {810, 0, "the other way"},
+        {990, 180, "two of them"},
         {-1000, 10, "1450 less four"},
     };
     for (const auto& c : cases) EXPECT_NEAR(clockAngle(c.in * Math::kPi / 180), c.out, 1e-9) << c.why;
