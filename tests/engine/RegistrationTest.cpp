@@ -124,5 +124,26 @@ TEST(Registration, ConstructorsAndRecordsHaveTheSameDefaults) {
                                  VexaLinearGradient, VexaRadialGradient, VexaGradientStop>();
 }
 
+TEST(Registration, InheritedAttributesAreThoseOfStylingAndAFewMore) {
+    std::set<std::string_view> names;
+    for (const auto& inheritable : XmlObjectFactory::get()->inheritableNames())
+        if (inheritable.space->uri == chartNamespace().uri) names.insert(inheritable.name);
+    const std::set<std::string_view> expected = {
+        // Styling of elements.
+        "fill", "fill-opacity", "stroke", "stroke-opacity", "stroke-width", "stroke-linecap", "stroke-linejoin",
+        "stroke-miterlimit", "stroke-dasharray", "stroke-dashoffset", "opacity", "font-family", "font-size",
+        "font-weight", "font-style", "caption-color", "caption-offset",
+        // What else a group of elements has in common.
+        "theme", "caption-placement", "marker", "marker-width", "min", "max", "padding"};
+    EXPECT_EQ(names, expected);
+
+    const std::set<std::string_view> ofAreas{"theme",     "caption-color", "font-family",
+                                             "font-size", "font-weight",   "font-style"};
+    for (const XmlAttributeTypeInfo& attribute : VexaAreaObject::getTypeInfoInstance()->attributes())
+        EXPECT_EQ(attribute.isInherited(), ofAreas.contains(attribute.getName())) << attribute.getName();
+    for (const XmlAttributeTypeInfo& attribute : VexaElementObject::getTypeInfoInstance()->attributes())
+        EXPECT_EQ(attribute.isInherited(), attribute.getName() != "id") << attribute.getName();
+}
+
 }  // namespace
 }  // namespace VEXA::Testing
