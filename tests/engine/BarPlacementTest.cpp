@@ -11,7 +11,7 @@ namespace {
 std::string placed(const UnplacedSeries& series, SerieGrouping grouping = SerieGrouping::Clustered) {
     std::string text;
     for (const auto& shifts : placeBars(series, grouping, 2)) {
-        for (const BarShift& shift : shifts) text += shown(shift.category) + ' ';
+        for (const BarShift& shift : shifts) text += shown(shift.category) + (shift.value == 0 ? " " : " raised ");
     }
     return text;
 }
