@@ -31,30 +31,6 @@ TEST(AxisData, ValuesAreIndexedInTheOrderOfTheirFirstAppearance) {
     EXPECT_EQ(days.size(), 5000U);
 }
 
-TEST(AxisData, KindIsThatOfMostValues) {
-    const struct {
-        int numbers, dates, texts;
-        ValueKind kind;
-        const char* why;
-    } cases[] = {
-        {0, 0, 0, ValueKind::Number, "nothing to go by"},
-        {1, 0, 1, ValueKind::Number, "as many texts are not more"},
-        {1, 1, 0, ValueKind::Number, "as many dates neither"},
-        {0, 1, 1, ValueKind::Date, "texts do not outnumber the dates"},
-        {1, 2, 2, ValueKind::Date, "dates outnumber the numbers"},
-        {3, 0, 4, ValueKind::Text, "more texts than either"},
-        {3, 2, 3, ValueKind::Number, "but not than one of them only"},
-    };
-    for (const auto& c : cases) {
-        KindCount count;
-        for (int i = 0; i < c.numbers; ++i) count.add(ValueKind::Number);
-        for (int i = 0; i < c.dates; ++i) count.add(ValueKind::Date);
-        for (int i = 0; i < c.texts; ++i) count.add(ValueKind::Text);
-        for (int i = 0; i < 9; ++i) count.add(ValueKind::None);
-        EXPECT_EQ(count.winner(), c.kind) << c.why;
-    }
-}
-
 TEST(AxisData, RangeHoldsWhatTheAxisShows) {
     const AxisUnits automatic;
     const AxisUnits tens(AxisUnitsType::Number, 10);

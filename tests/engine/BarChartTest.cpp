@@ -4,9 +4,6 @@
 namespace VEXA::Testing {
 namespace {
 
-const std::string kUpright = "<category-axis min='0' max='20'/><value-axis min='-10' max='10'/>";
-const std::string kLying = "<category-axis min='0' max='20'/><value-axis min='-10' max='10' orientation='horizontal'/>";
-
 /// A series with bars of 10 px from "5=4 10=-2", filled with #0N0N0N.
 std::string bars(int number, const std::string& data, const std::string& attributes = "") {
     std::string text = points(data);
@@ -117,6 +114,10 @@ TEST(BarChart, BoxesShowTheirFaces) {
          "4 100,80 140,80 148,72 108,72; 8 100,70 140,70 140,80 100,80; 4 140,70 140,80 148,72 148,62; "
          "4 100,70 140,70 148,62 108,62; ",
          "lower side, front, end, upper side"},
+        {kLying, "", bars(8, "5=-4"),
+         "4 100,80 60,80 68,72 108,72; 8 100,70 60,70 60,80 100,80; 4 100,70 100,80 108,72 108,62; "
+         "4 100,70 60,70 68,62 108,62; ",
+         "each from the base to the value: lower side, front, base, upper side"},
         {kUpright, "grouping='stacked'", bars(8, "5=4") + bars(6, "5=2"),
          "6 41,30 51,30 59,22 49,22; 6 41,20 51,20 51,30 41,30; 3 51,20 51,30 59,22 59,12; 3 41,20 51,20 59,12 49,12; "
          "6 41,20 51,20 51,30 41,30; 3 51,20 51,30 59,22 59,12; "
@@ -148,6 +149,10 @@ TEST(BarChart, CylindersHaveABodyAndACap) {
     EXPECT_EQ(painted(kLying, "", bars(8, "5=4")),
               "linear 148,70 140,70 140,80 148,80 108,80 100,80 100,70 108,70 148,70; "
               "#040404 148,70 140,70 140,80 148,80 156,80 156,70 148,70; ");
+    EXPECT_EQ(painted(kLying, "", bars(8, "5=-4")),
+              "linear 68,70 60,70 60,80 68,80 108,80 100,80 100,70 108,70 68,70; "
+              "#040404 108,70 100,70 100,80 108,80 116,80 116,70 108,70; ")
+        << "always the right end";
     const std::string two = bars(8, "5=4 10=-2 15=1 20=") + bars(6, "5=2 10=-3 15=-1 20=-1");
     std::string caps;
     for (const DrawCall& call : drawingCalls(barChart(kUpright, "bar-shape='cylinder' grouping='stacked'", two, kDeep)))
@@ -195,12 +200,8 @@ TEST(BarChart, SecondRenderIsTheSame) {
          {std::string(), std::string("grouping='stacked'"), std::string("grouping='stacked' bar-shape='cylinder'")}) {
         for (const std::string& plot : {std::string(), kDeep}) {
             for (const std::string& series : {two, bars(1, "5=4")}) {
-                const auto root = load(barChart(kUpright, attributes, series, plot));
-                const auto first = make<RecordingSurface>();
-                const auto second = make<RecordingSurface>();
-                root->render(first, 400, 300);
-                root->render(second, 400, 300);
-                EXPECT_EQ(first->calls, second->calls) << attributes << ' ' << plot;
+                const auto [first, second] = renderedTwice(*load(barChart(kUpright, attributes, series, plot)));
+                EXPECT_EQ(first, second) << attributes << ' ' << plot;
             }
         }
     }
@@ -208,10 +209,10 @@ TEST(BarChart, SecondRenderIsTheSame) {
 
 TEST(BarChart, ThemeColoursAreNumberedFromTheLastSeries) {
     const auto fills = [](const std::string& theme) {
-        const std::string series = "<serie>" + points("5=2") + "</serie><serie>" + points("5=3") + "</serie>";
+        const std::string series = "<serie>" + points("5=2") + "</serie>";
         std::string text;
         const std::string plot = "<plot-area width='200' height='100' labels-position='overflow'><bar-chart>" + series +
-                                 "</bar-chart>" + kUpright + "</plot-area>";
+                                 "</bar-chart><bar-chart>" + series + "</bar-chart>" + kUpright + "</plot-area>";
         for (const DrawCall& call : drawingCalls(rootWith("theme='" + theme + "'", plot), "rectangle"))
             text += call.fill + ' ' + call.stroke + "; ";
         return text;

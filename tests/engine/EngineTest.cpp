@@ -151,18 +151,6 @@ TEST(EngineInheritance, TitleHasTheRootsFont) {
     EXPECT_EQ(text("caption-color='red'", "").fill, "#000000") << "a title's text has a colour of its own";
 }
 
-TEST(EngineInheritance, RadarChartsTakeFontsFromAboveAndPaintFromTheirOwn) {
-    const auto calls =
-        drawingCalls(rootWith("font-size='20' theme='none' fill='#111111'",
-                              "<spider fill='#222222' stroke='#333333' caption-color='#444444' draw-web='false'>"
-                              "<spider-axis id='a' caption='A'/><spider-serie/></spider>"));
-    ASSERT_EQ(calls.size(), 5U) << "two backgrounds, a series, a spoke and its caption";
-    EXPECT_EQ(calls[2].fill + calls[2].stroke, "") << "the areas' paint is not the series'";
-    EXPECT_EQ(calls[3].stroke, "") << "nor the axis's";
-    EXPECT_EQ(calls[4].fill, "#444444") << "a caption colour is handed on";
-    EXPECT_TRUE(calls[4].says(R"("size":20)"));
-}
-
 std::size_t warningsOf(std::size_t count, const std::string& unknownElement) {
     std::string content = "<spider-axis id='a'/>";
     for (std::size_t i = 0; i < count; ++i) content += "<spider-serie fill='url(#none)'/>" + unknownElement;

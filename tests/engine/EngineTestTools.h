@@ -53,6 +53,9 @@ std::string draw(const std::string& xml);
 /// What a document draws, without the calls for document and page; those of one operation if one is named.
 std::vector<DrawCall> drawingCalls(const std::string& xml, const std::string& op = "");
 
+/// What each of two renders of the same tree draws, as RecordingSurface notes it.
+std::pair<std::string, std::string> renderedTwice(VexaRoot& root);
+
 std::string shown(double value);
 std::string shown(PointF point);
 std::string shown(const std::vector<PointF>& points);
@@ -72,7 +75,7 @@ std::string attributeOf(const XmlObject& object, std::string_view name);
 void give(XmlObject& object, std::string_view attributes);
 
 /// Notes each call as text, "line 0 0 10 5; ", and what it was told of the document when that began.
-class RecordingSurface final : public RenderContext {
+class RecordingSurface : public RenderContext {
 public:
     void beginDocument() override;
     void endDocument() override { note("endDocument", {}); }
@@ -118,6 +121,14 @@ public:
 
 private:
     std::shared_ptr<FontService> previous_;
+};
+
+/// Measures as the fixed-width fonts, but bold characters twice as wide, W ten times, and AV apart; counts the characters
+/// that it is asked for.
+class CountingFonts final : public FontService {
+public:
+    SmartPtr<FontProgram> getFont(const Font& font) override;
+    std::size_t measured = 0;
 };
 
 inline const std::string kNullPointer = "NullPointerException 2002 SmartPtr:118 at 0:0";

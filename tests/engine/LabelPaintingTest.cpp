@@ -28,15 +28,12 @@ TEST(LabelPainting, TextsStandAtTheirValues) {
          "reading upward on the left"},
         {values("unit='10' intersection='at-maximum'", "orientation='perpendicular'"),
          "0 204,97 turned 90; 10 204,-6 turned 90; ", "downward on the right"},
-        {values("unit='10' intersection='at-maximum'", "orientation='diagonal'"),
-         "0 204,103.54 turned 45; 10 204,3.54 turned 45; ", "10 / 2√2 below"},
         {categories("intersection='at-minimum'", ""), "A -3,114; B 97,114; C 197,114; ", "below the plot"},
         {categories("intersection='at-maximum'", ""), "A -3,-4; B 97,-4; C 197,-4; ", "above it"},
         {categories("intersection='at-minimum'", "orientation='diagonal'"),
          "A -4.24,115.31 turned -45; B 95.76,115.31 turned -45; C 195.76,115.31 turned -45; ",
          "6/√2 to the left, 4 + 16/√2 down"},
         {categories("", ""), "A -3,114; B 97,114; C 197,114; ", "an axis at zero has its labels at the foot"},
-        {categories("", "draw-at-min='false'"), "A -3,64; B 97,64; C 197,64; ", "or at its line"},
         {categories("orientation='vertical' intersection='at-cross-value'", ""), "A -10,105; B -10,55; C -10,5; ",
          "upright at the left edge"},
         {categories("orientation='vertical'", "draw-at-min='false'"), "A 90,105; B 90,55; C 90,5; ", "or at its line"},
@@ -93,15 +90,12 @@ TEST(LabelPainting, CaptionsKeepClearOfTheLabels) {
         const char* why;
     } cases[] = {
         {values(upright, ""), "0 -10,105; 10 -16,5; Rain -21,62 turned -90; ", "12 + 4 + 3 + 2 px left, 24 px long"},
-        {values(upright + "intersection='at-maximum'", ""), "0 204,105; 10 204,5; Rain 221,38 turned 90; ", "right"},
         {values(upright, "draw-values='false'"), "Rain -5,62 turned -90; ", "no labels, no offset of theirs"},
         {categories("intersection='at-minimum' caption='Town'", "offset='6'"),
          "A -3,116; B 97,116; C 197,116; Town 88,130; ", "10 + 10 + 6 + 4 px below"},
         {categories("caption='Town'", ""), "A -3,114; B 97,114; C 197,114; Town 88,128; ", "at the foot, not at zero"},
         {categories("caption='Town'", "draw-at-min='false'"), "A -3,64; B 97,64; C 197,64; Town 88,114; ",
          "nothing between the caption and the foot"},
-        {categories("caption='Town' intersection='at-maximum'", ""), "A -3,-4; B 97,-4; C 197,-4; Town 88,-20; ",
-         "10 + 4 + 4 + 2 px above"},
         {categories("caption='  '", "draw-values='false'"), "", "a blank caption is none"},
     };
     for (const auto& c : cases) EXPECT_EQ(textsOf(c.xml), c.texts) << c.why;

@@ -23,18 +23,11 @@ private:
     SmartPtr<FontProgram> program_;
 };
 
-struct KeptWarnings final : LogSink {
-    void write(const LogRecord& record) override { records.push_back(record); }
-    std::vector<LogRecord> records;
-};
-
 std::vector<LogRecord> warningsOf(const std::string& xml, std::u32string lacking) {
-    const auto before = FontManager::setService(std::make_shared<LackingFont>(std::move(lacking)));
-    KeptWarnings kept;
-    const LogScope scope(kept);
+    const WithFonts fonts(std::make_shared<LackingFont>(std::move(lacking)));
+    const CapturedLog log;
     draw(xml);
-    FontManager::setService(before);
-    return kept.records;
+    return log.records;
 }
 
 TEST(MissingCharacters, AreToldOnceForAPictureAtTheRoot) {

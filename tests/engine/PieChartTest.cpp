@@ -186,7 +186,6 @@ TEST(PieChart, CaptionsAreBrokenAndPlaced) {
         {"", "Wind  -34,88; 40.2% -34,100", "30 px of 200 break it after the blank; lines are 12 px apart"},
         {"caption-size='60'", "Wind 40.2% -64,100", "exactly enough"},
         {"caption-wrap='false'", "Wind 40.2% -64,100", "not to be broken"},
-        {"caption-placement='outside-end'", "Wind  -34,88; 40.2% -34,100", "the same as by default"},
         {"caption-placement='center'", "Wind 40.2% -5,105", "within the pie it is not broken"},
         {"caption-placement='inside-end'", "Wind 40.2% 4,110", "to the right of the rim, below its point"},
         {"caption-placement='inside-base'", "Wind 40.2% -64,100", "outside, but not broken"},
@@ -259,14 +258,8 @@ TEST(PieChart, CaptionsThatDoNotFitAreHidden) {
 }
 
 /// Notes what is drawn in which place, and how many clips are in force.
-struct PlaceSurface final : RenderContext {
-    void beginDocument() override {}
-    void endDocument() override {}
-    void beginPage(const SizeF&) override {}
-    void endPage() override {}
-    void drawLine(float, float, float, float) override {}
+struct PlaceSurface final : RecordingSurface {
     void drawRectangle(float x, float y, float, float, float, float) override { note({x, y}); }
-    void drawEllipse(float, float, float, float) override {}
     void drawPath(SmartPtr<Path> path) override { note(path->points()[0]); }
     void drawText(const String&, int, float x, float y, float, int) override { note({x, y}); }
     void note(PointF point) {
@@ -274,7 +267,6 @@ struct PlaceSurface final : RenderContext {
         calls += shown(PointF{point.x + matrix[4], point.y + matrix[5]}) + ' ';
         clips = std::max(clips, state().clip->depth);
     }
-    std::string calls;
     std::size_t clips = 0;
 };
 
@@ -312,9 +304,8 @@ TEST(PieChart, ThemesColourSlicesFromTheLastToTheFirst) {
     };
     const std::string three = slice("1") + slice("1") + slice("1");
     EXPECT_EQ(paint("colored-flat", three), "#4572a7 #c0504d #9bbb59 ");
-    EXPECT_EQ(paint("colored-white-outline", slice("1")), "#4572a7#ffffff ");
-    EXPECT_EQ(paint("colored-flat", slice("1", "", "fill='#010203'") + slice("1")), "#010203 #c0504d ");
-    EXPECT_EQ(paint("none", slice("1")), " ");
+    EXPECT_EQ(paint("colored-white-outline", slice("1", "", "fill='#010203'") + slice("1")),
+              "#010203#ffffff #c0504d#ffffff ");
 }
 
 TEST(PieChart, ASliceNeedsItsPie) {

@@ -33,11 +33,16 @@ TEST(PlotData, KindsOfTheAxesFollowTheData) {
         ValueKind categories, values;
         const char* why;
     } cases[] = {
-        {"", "", "", ValueKind::Number, ValueKind::Number, "no data"},
         {"", "", lineChart("A=1 B=2"), ValueKind::Text, ValueKind::Number, "texts and numbers"},
         {"", "", lineChart("2024-01-01=1 2024-01-02=x"), ValueKind::Date, ValueKind::Number, "a tie is numeric"},
         {"", "", lineChart("A=1 =x =y"), ValueKind::Text, ValueKind::Number, "points without category do not count"},
         {"", "", lineChart("7=1 7=2 7=3 A=1 B=1"), ValueKind::Number, ValueKind::Number, "repeated ones do"},
+        {"", "", "", ValueKind::Number, ValueKind::Number, "nothing to go by"},
+        {"", "", lineChart("1=1 A=1"), ValueKind::Number, ValueKind::Number, "as many texts are not more"},
+        {"", "", lineChart("2024-01-01=1 A=1"), ValueKind::Date, ValueKind::Number, "texts do not outnumber the dates"},
+        {"", "", lineChart("1=1 2024-01-01=1 2024-01-02=1 A=1 B=1"), ValueKind::Date, ValueKind::Number, "dates do"},
+        {"", "", lineChart("1=1 2=1 3=1 2024-01-01=1 2024-01-02=1 A=1 B=1 C=1"), ValueKind::Number, ValueKind::Number,
+         "more texts than dates, but not than numbers"},
         {"data-type='text'", "data-type='date'", lineChart("1=1"), ValueKind::Text, ValueKind::Date, "as the axes say"},
         {"data-type='number-alt'", "data-type='number'", lineChart("A=x"), ValueKind::Number, ValueKind::Number,
          "both"},

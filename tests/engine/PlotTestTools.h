@@ -36,6 +36,11 @@ inline std::string fixedPlot(const std::string& attributes, const std::string& c
     return plotWith("width='200' height='100' labels-position='overflow' " + attributes, content);
 }
 
+/// Axes of the fixed plot on which a category takes 10 px and a value 5 px; lying 5 px and 10 px.
+inline const std::string kUpright = "<category-axis min='0' max='20'/><value-axis min='-10' max='10'/>";
+inline const std::string kLying =
+    "<category-axis min='0' max='20'/><value-axis min='-10' max='10' orientation='horizontal'/>";
+
 inline Matrix transformOf(const DrawCall& call) {
     std::istringstream in(call.transform);
     float m[6] = {};

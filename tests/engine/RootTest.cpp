@@ -1,69 +1,30 @@
-#include "tests/engine/StyleTestTools.h"
-#include "vexa/surfaces/DisplayListSurface.h"
+#include "tests/engine/EngineTestTools.h"
+#include "vexa/pie/VexaPie.h"
 
 namespace VEXA::Testing {
 namespace {
 
-/// An area of the document that tells what is asked of it.
-template <class Area>
-struct Probe final : Area {
-    Probe(std::string areaName, std::string& allEvents) : name(std::move(areaName)), events(allEvents) {}
-    void render(VexaRenderContext&) override { events += "render " + name + ", "; }
-    void preRender(VexaRenderContext&, SmartPtr<VexaTheme> given) override {
-        events += "pre-render " + name + ", ";
-        theme = given;
-    }
-    int getSerieCount() override { return serieCount; }
+TEST(Root, ThemeGoesToTheFirstBodyAndTheLegend) {
+    const auto fills = [](const std::string& theme, const std::string& bodies) {
+        const std::string items = "<legend-item label='square'/><legend-item label='square'/>";
+        std::string text;
+        for (const auto& call : drawingCalls(rootWith(theme, bodies + "<legend>" + items + "</legend>")))
+            text += call.fill.empty() ? "" : call.fill + ' ';
+        return text;
+    };
+    const std::string two = "<pie><slice value='1'/><slice value='1'/></pie>";
+    const std::string three = "<pie><slice value='1'/><slice value='1'/><slice value='1'/></pie>";
+    EXPECT_EQ(fills("theme='red-flat'", two + three), "#933d3b #cf7977 #933d3b #cf7977 ")
+        << "the palette has the colours of the first body: its slices, no others, and the items";
+    EXPECT_EQ(fills("theme='red-flat'", ""), "#c0504d #c0504d ") << "the palette is empty: the base colour";
+    EXPECT_EQ(fills("theme='none'", two), "") << "no theme";
 
-    std::string name;
-    std::string& events;
-    int serieCount = 1;
-    SmartPtr<VexaTheme> theme;
-};
-
-void attach(VexaRoot& root, const char* element, XmlObject* child) {
-    ASSERT_TRUE(root.getTypeInfo()->findElement(element)->attach(root, child));
-    child->setParent(&root);
-}
-
-/// A root with a legend and bodies, of which the first is no area.
-struct ProbedRoot {
-    explicit ProbedRoot(const std::string& attributes, bool hasBodies = true) : root(load(rootWith(attributes, ""))) {
-        attach(*root, "legend", legend.get());
-        if (!hasBodies) return;
-        attach(*root, "spider", make<VexaTitle>().get());
-        attach(*root, "spider", first.get());
-        attach(*root, "pie", second.get());
-    }
-    std::string renderOnce() {
-        events.clear();
-        root->render(make<NullSurface>(), 800, 600);
-        return events;
-    }
-
-    std::string events;
-    SmartPtr<Probe<VexaAreaObject>> first = make<Probe<VexaAreaObject>>("first", events);
-    SmartPtr<Probe<VexaAreaObject>> second = make<Probe<VexaAreaObject>>("second", events);
-    SmartPtr<Probe<VexaLegend>> legend = make<Probe<VexaLegend>>("legend", events);
-    XmlObjPtr<VexaRoot> root;
-};
-
-TEST(Root, ThemeGoesToTheFirstBodyAndTheLegendOnceForATree) {
-    const std::string renders = "render first, render second, render legend, ";
-    const std::string base = "#c0504d/1";  // what every index beyond the palette gets
-    ProbedRoot probed("theme='red-flat'");
-    probed.first->serieCount = 2;
-    probed.second->serieCount = 7;
-    EXPECT_EQ(probed.renderOnce(), "pre-render first, pre-render legend, " + renders);
-    EXPECT_EQ(probed.first->theme, probed.legend->theme) << "one theme for both";
-    EXPECT_NE(describe(probed.first->theme->getSerieFill(1)), base) << "a colour for each series of the first body";
-    EXPECT_EQ(describe(probed.first->theme->getSerieFill(2)), base);
-    EXPECT_EQ(probed.renderOnce(), renders) << "what was handed out stays";
-    EXPECT_EQ(ProbedRoot("theme='none'").renderOnce(), renders) << "without a theme nothing is handed out";
-
-    ProbedRoot bodiless("theme='red-flat'", false);
-    EXPECT_EQ(bodiless.renderOnce(), "pre-render legend, render legend, ");
-    EXPECT_EQ(describe(bodiless.legend->theme->getSerieFill(0)), base) << "the palette is empty";
+    const auto root = load(rootWith("theme='red-flat'", two));
+    root->render(make<NullSurface>(), 800, 600);
+    give(*root, "theme=blue-flat");
+    root->render(make<NullSurface>(), 800, 600);
+    const auto& slice = static_cast<VexaPie&>(*root->getBodies()[0]).getSlices()[0];
+    EXPECT_EQ(describe(slice->getFillBrush(ColorAspect::Normal, 0.5F)), "#933d3b/1") << "once for a tree";
 }
 
 TEST(Root, PaintsBackgroundBodiesAndTitleInThisOrder) {
@@ -89,25 +50,11 @@ TEST(Root, NeedsNoAttributesAnywhere) {
         << "page; pie, less 15% of 600 px and 4 px on each side; spider; a title of 10%";
 }
 
-TEST(Root, OnlyTheFirstBodyIsThemed) {
-    const std::string plot =
-        "<plot-area><bar-chart><serie><data-point category='A' value='1'/></serie></bar-chart><category-axis/>"
-        "<value-axis/></plot-area>";
-    std::string fills;
-    for (const auto& call : drawingCalls(rootWith("theme='red-flat'", plot + plot), "rectangle"))
-        fills += call.fill + ' ';
-    EXPECT_EQ(fills, "  #c0504d   ") << "page; background and bar of a plot, twice";
-}
-
 TEST(Root, PositionMovesAndSizeCutsThePage) {
     const auto call = drawingCalls(rootWith("x='10' y='20' width='50%' height='300'", "")).at(0);
     EXPECT_EQ(call.transform, "1 0 0 1 10 20");
     EXPECT_EQ(call.clips, (std::vector<std::string>{"-1,-1 400,-1 400,300 -1,300 | 1 0 0 1 10 20"}));
     EXPECT_EQ(call.box, "10,20 200 x 300") << "the background counts its percentage from the size of the page";
-    const auto root = load(rootWith("width='25%' height='3in'", ""));
-    EXPECT_EQ(root->getWidth(800), 200);
-    EXPECT_EQ(root->getHeight(600), 288);
-    EXPECT_TRUE(root->hasPercentWidth() && !root->hasPercentHeight());
 }
 
 TEST(Root, ViewBoxScalesTheResolvedPage) {
@@ -154,18 +101,9 @@ TEST(Root, RenderingTwiceGivesTheSameBytes) {
                  "<title value='Twice'/><spider><spider-axis id='a' caption='A'/><spider-serie>"
                  "<spider-data-point axis-id='a' value='7'/></spider-serie></spider>");
     EXPECT_EQ(draw(document), draw(document)) << "of a document";
-    const auto root = load(document);
-    std::string pictures[2];
-    for (std::string& picture : pictures) {
-        const auto out = make<IO::MemoryStream>();
-        const auto surface = make<DisplayListSurface>(out);
-        surface->beginDocument();
-        root->render(surface, 800, 600);
-        surface->endDocument();
-        picture = out->bytes();
-    }
-    EXPECT_EQ(pictures[0], pictures[1]) << "of a tree";
-    EXPECT_NE(pictures[0].find("Twice"), std::string::npos);
+    const auto [first, second] = renderedTwice(*load(document));
+    EXPECT_EQ(first, second) << "of a tree";
+    EXPECT_NE(first.find("Twice"), std::string::npos);
 }
 
 /// The calls of a title in a page of 400 px by 300 px, without the root's background.
@@ -202,9 +140,6 @@ TEST(Title, BoxHasTheFillAndTheStrokeAndTheTextAColourOfItsOwn) {
     EXPECT_EQ(plain.at(1).fill, "#000000");
     EXPECT_EQ(titleCalls("").size(), 1U) << "only the box without a text";
     EXPECT_EQ(titleCalls("value='Title' width='0'").size(), 1U) << "no room for text";
-    const auto root = load(rootWith("", "<title width='25%' height='2cm'/>"));
-    EXPECT_EQ(root->getTitle()->getWidth(), LengthOrPercent::percent(0.25F));
-    EXPECT_EQ(root->getTitle()->getHeight(), LengthOrPercent(Length(2, LengthUnit::Cm)));
 }
 
 }  // namespace

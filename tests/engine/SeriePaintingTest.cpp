@@ -3,8 +3,6 @@
 namespace VEXA::Testing {
 namespace {
 
-const std::string kUpright = "<category-axis min='0' max='20'/><value-axis min='-10' max='10'/>";
-const std::string kLying = "<category-axis min='0' max='20'/><value-axis min='-10' max='10' orientation='horizontal'/>";
 const std::string kDeep = "aspect-3d-view='true' aspect-3d-chart-depth='8' aspect-3d-shading='0.5'";
 
 std::string serie(const std::string& data, const std::string& attributes = "fill='#080808'") {

@@ -10,14 +10,7 @@ namespace {
 VexaSpider& spiderOf(VexaRoot& root) { return static_cast<VexaSpider&>(*root.getBodies()[0]); }
 
 /// Notes how high each polygon reaches on the upright spoke, and each spoke.
-struct Heights final : RenderContext {
-    void beginDocument() override {}
-    void endDocument() override {}
-    void beginPage(const SizeF&) override {}
-    void endPage() override {}
-    void drawRectangle(float, float, float, float, float, float) override {}
-    void drawEllipse(float, float, float, float) override {}
-    void drawText(const String&, int, float, float, float, int) override {}
+struct Heights final : RecordingSurface {
     void drawPath(SmartPtr<Path> path) override { heights += shown(-path->points()[0].y) + ' '; }
     void drawLine(float, float, float, float) override { heights += '|'; }
     std::string heights;
@@ -72,6 +65,10 @@ TEST(SpiderBudget, PointsWithoutTheirAxisAreTold) {
         {axes, b, false, "", "an axis may go without a point"},
         {axes, unknown + a + unknown, false, "34104@2:3 34104@3:3", "each at its place; case counts"},
         {axes, a + b + nameless, false, "34000@2:1", "no search reaches it, and nothing shows it"},
+        {axes, a + nameless + b, true, "34000@2:1", "the search for b passes it"},
+        {axes, a + unknown + nameless, true, "34000@3:1", "the search for b reaches the end"},
+        {axes, a + b + "\n<spider-data-point axis-id=''/>", false, "34000@2:1", "an empty id is none"},
+        {axes, a + "\n<spider-data-point axis-id=''/>", true, "34000@2:1", "or reached"},
         {axes + axes, a + b + unknown, false, "34104@2:3", "equal ids"},
         {axes, unknown + nameless, true, "34000@3:1", "a series that fails tells its failure only"},
         {"", unknown + nameless, false, "", "without axes nothing but the background is drawn"},
@@ -79,7 +76,8 @@ TEST(SpiderBudget, PointsWithoutTheirAxisAreTold) {
     for (const auto& c : cases) {
         const CapturedLog log;
         const std::string document = spiderWith("", c.axes + "<spider-serie>" + c.points + "</spider-serie>");
-        EXPECT_EQ(failureOf([&] { draw(document); }).starts_with("Exception 34000"), c.fails) << c.why;
+        EXPECT_EQ(failureOf([&] { draw(document); }).starts_with("Exception 34000 VexaSpiderDataPoint:27"), c.fails)
+            << c.why;
         EXPECT_EQ(log.told(), c.codes) << c.why;
     }
     const CapturedLog log;

@@ -17,7 +17,6 @@ std::string axes(int count, const std::string& attributes = "min='0' max='50'") 
         text += std::string("<spider-axis id='") + id + "' " + attributes + "/>";
     return text;
 }
-const std::string kNameless = "<spider-data-point value='1'/>";
 
 VexaSpider& spiderOf(VexaRoot& root) { return static_cast<VexaSpider&>(*root.getBodies()[0]); }
 
@@ -149,29 +148,6 @@ TEST(SpiderChart, CaptionsStandOutsideTheTips) {
         << "30 px of text centred, 4 px above the tip, and so on; not in the axis's own fill";
     EXPECT_EQ(texts(1, style + " caption-offset='10'").at(0).origin, "-15,-160");
     EXPECT_TRUE(texts(1, "caption='  '").empty()) << "a blank caption is no caption";
-}
-
-TEST(SpiderChart, LookUpFailsExactlyWhenItMeetsAPointWithoutAxis) {
-    const std::string a = point("a", "1");
-    const std::string b = point("b", "1");
-    const struct {
-        int axisCount;
-        std::string points;
-        bool fails;
-        const char* why;
-    } cases[] = {
-        {2, a + kNameless + b, true, "the search for b passes it"},
-        {2, b + a + kNameless, false, "every axis finds its point before"},
-        {3, b + a + kNameless, true, "the search for c reaches the end"},
-        {2, a + b + "<spider-data-point axis-id=''/>" + point("c", "1"), false, "an empty id is none, not reached"},
-        {3, a + b + "<spider-data-point axis-id=''/>" + point("c", "1"), true, "or reached"},
-    };
-    for (const auto& c : cases) {
-        const std::string document = spiderWith("", axes(c.axisCount) + serie("\n" + c.points));
-        const std::string failure = failureOf([&] { draw(document); });
-        EXPECT_EQ(failure.substr(0, failure.find(" at 2:")), c.fails ? "Exception 34000 VexaSpiderDataPoint:27" : "")
-            << c.why;
-    }
 }
 
 TEST(SpiderChart, SeriesAnswerForThemselvesToo) {

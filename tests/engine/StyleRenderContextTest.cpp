@@ -87,13 +87,6 @@ TEST(StyleArea, ResolvesItsRectangleAndTakesANewOne) {
     area->setAreaRect({1, 2, 3, 4});
     EXPECT_EQ(area->getAreaRect(context), (RectF{1, 2, 3, 4}));
     EXPECT_EQ(make<TestArea>()->getAreaRect(context), (RectF{0, 0, 200, 100})) << "the shared defaults are untouched";
-
-    EXPECT_EQ(area->getSceneDepth(), 20);
-    EXPECT_EQ(area->getChartDepth(), 10);
-    EXPECT_FALSE(area->isView3DMode());
-    EXPECT_EQ(area->getAspectShading(), 0.7F);
-    EXPECT_EQ(area->getTheme(), ChartTheme::ColoredFlat);
-    EXPECT_EQ(area->getSerieCount(), 1);
 }
 
 // What is empty leaves what the surface had: blue, and a green line of 2 px.
@@ -115,21 +108,6 @@ TEST(StyleArea, UpdateSetsOnlyWhatThereIs) {
         };
         EXPECT_EQ(ofBoth(c.in, update), c.out) << c.why;
     }
-}
-
-// All styling attributes of an area from a document to the surface.
-TEST(StyleArea, PaintsWithAllItsAttributes) {
-    const auto call = drawingCalls(rootWith("theme='none' x='5' y='6' width='50%' height='1in' fill='#c80000' "
-                                            "fill-opacity='0.5' stroke='#3264c8' stroke-width='3pt' opacity='0.25' "
-                                            "stroke-linecap='round' stroke-linejoin='bevel' stroke-miterlimit='7' "
-                                            "stroke-dasharray='3pt 2' stroke-dashoffset='3pc'",
-                                            ""))
-                          .at(0);
-    EXPECT_TRUE(call.says(R"("fill":{"type":"solid","color":"#c80000","opacity":0.5})")) << call.json;
-    EXPECT_TRUE(call.says(R"("stroke":{"brush":{"type":"solid","color":"#3264c8","opacity":0.25},"width":4,)"
-                          R"("cap":"round","join":"bevel","miterlimit":7,"dash":{"array":[4,2],"offset":48}})"))
-        << call.json;
-    EXPECT_EQ(call.box, "5,6 200 x 96") << "half of the root's own width, as any percentage in it";
 }
 
 }  // namespace

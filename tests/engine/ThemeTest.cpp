@@ -12,7 +12,6 @@ struct OpenTheme final : VexaTheme {
     using VexaTheme::getBaseColor;
     using VexaTheme::getColoredStyleBaseColor;
     using VexaTheme::getColoredStyleStrokeColor;
-    using VexaTheme::isColoredStyle;
 };
 
 // Two of blue #4572a7 (69, 114, 167): 23.33% of the way to white, and 23.33% darker. Three of gray #616161 (97): 35% to
