@@ -8,6 +8,8 @@
 #include <cstdlib>
 #include <regex>
 
+#include "vexa/support/core/Exception.h"
+
 /// The thread sanitizer does not see the atomic operations of libraries that were built without it.
 extern "C" const char* __tsan_default_suppressions() { return "called_from_lib:libcairo.so\n"; }
 
@@ -32,14 +34,6 @@ private:
     std::array<char, 32> name_{"/tmp/vexa-cairo-test-XXXXXX"};
 };
 
-void draw(CairoSurface& surface, const Drawing& drawing, SizeF page) {
-    surface.beginDocument();
-    surface.beginPage(page);
-    drawing(surface);
-    surface.endPage();
-    surface.endDocument();
-}
-
 }  // namespace
 
 std::uint32_t Picture::at(int x, int y) const {
@@ -59,9 +53,28 @@ Picture readPng(const std::string& bytes) {
     return picture;
 }
 
+void drawPage(CairoSurface& surface, const Drawing& draw, SizeF size, bool fails) {
+    surface.beginDocument();
+    surface.beginPage(size);
+    draw(surface);
+    surface.restoreState({});
+    if (fails) return;
+    surface.endPage();
+    surface.endDocument();
+}
+
+int codeOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Exception& exception) {
+        return exception.getCode();
+    }
+    return 0;
+}
+
 std::string pngOf(const Drawing& drawing, const PngOptions& options, SizeF page) {
     const auto stream = make<IO::MemoryStream>();
-    draw(*CairoSurface::png(stream, options), drawing, page);
+    drawPage(*CairoSurface::png(stream, options), drawing, page);
     return stream->bytes();
 }
 
@@ -69,7 +82,7 @@ std::string pdfOf(const Drawing& drawing, const DocumentInfo& info, SizeF page, 
     const auto stream = make<IO::MemoryStream>();
     const auto surface = CairoSurface::pdf(stream, options);
     surface->setDocumentInfo(info);
-    draw(*surface, drawing, page);
+    drawPage(*surface, drawing, page);
     return stream->bytes();
 }
 

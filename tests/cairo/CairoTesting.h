@@ -27,6 +27,12 @@ Picture readPng(const std::string& bytes);
 
 inline constexpr SizeF kSmallPage{40, 30};
 
+/// Draws a document of one page that ends; with `fails` it breaks off in the middle.
+void drawPage(CairoSurface& surface, const Drawing& draw, SizeF size, bool fails = false);
+
+/// The code of the exception that an action ends with; else 0.
+int codeOf(const std::function<void()>& action);
+
 std::string pngOf(const Drawing& draw, const PngOptions& options = {}, SizeF page = kSmallPage);
 std::string pdfOf(const Drawing& draw, const DocumentInfo& info = {}, SizeF page = {400, 300},
                   const PdfOptions& options = {});
