@@ -88,7 +88,7 @@ void expectAlike(const std::string& drawing, const std::string& surface, const P
     writeComparison(png, other, file);
     ADD_FAILURE() << drawing << ": PNG and " << surface << " differ by " << difference.worst << " about ("
                   << difference.x << ", " << difference.y << "), by " << difference.mean << " on the whole; see "
-                  << file << " (PNG, " << surface << ", difference)";
+                  << file << " (PNG, difference, " << surface << ")";
 }
 
 }  // namespace VEXA::Testing

@@ -48,7 +48,7 @@ SmartPtr<Brush> colorless() {
     return brush;
 }
 
-Scene blank(const char* name, const Drawing& draw) { return {name, draw, 5, {}, {60, 40}, true}; }
+Scene blank(const char* name, const Drawing& draw) { return {name, draw, {}, {60, 40}, true}; }
 
 Drawing inOpacity(float opacity, float width) {
     return painted(solid(0xE08020, opacity), make<Stroke>(solid(0x204080, opacity), width),
@@ -85,10 +85,10 @@ std::vector<Scene> oddScenes() {
         blank("coordinates that are no number", astray(kNaN)),
         blank("coordinates without end", astray(kInfinity)),
         blank("a clip with a corner that is no number", withinAstray(everyShape)),
-        {"an opacity above one", inOpacity(3, 4), 1, inOpacity(0.9F, 4)},
-        {"an opacity that is no number", inOpacity(kNaN, 6), 1, inOpacity(0.9F, 6)},
-        {"shapes that leave the page", reaching(500), 3, reaching(500, 20.6F)},
-        {"shapes that leave it by far", reaching(1e6F), 3, reaching(1e6F, 20.6F)},
+        {"an opacity above one", inOpacity(3, 4), inOpacity(0.9F, 4)},
+        {"an opacity that is no number", inOpacity(kNaN, 6), inOpacity(0.9F, 6)},
+        {"shapes that leave the page", reaching(500), reaching(500, 20.6F)},
+        {"shapes that leave it by far", reaching(1e6F), reaching(1e6F, 20.6F)},
     };
 }
 

@@ -6,11 +6,10 @@
 
 namespace VEXA::Testing {
 
-/// A small drawing that every surface shows alike.
+/// A small drawing that every surface shows alike; each of its operations leaves a mark, unless the scene is blank.
 struct Scene {
     const char* name;
     Drawing draw;
-    int operations;       ///< how many it draws; each leaves a mark of its own, unless the scene is blank
     Drawing almost = {};  ///< the same drawing with a slight fault, which no comparison may miss
     SizeF page = {60, 40};
     bool isBlank = false;  ///< nothing of it shows
