@@ -79,8 +79,8 @@ SmartPtr<GradientBrush> ofStops(const Vector<StopPoint>& stops, float end = 1, S
 }
 
 /// Plain colours from both ends of the gradient to its two stops; four times over the box.
-SmartPtr<GradientBrush> between(float from, float to, Spread spread) {
-    return ofStops({{from, colorOf(0xE00000), 1}, {to, colorOf(0x0000E0), 1}}, 0.25F, spread);
+SmartPtr<GradientBrush> between(float from, float to) {
+    return ofStops({{from, colorOf(0xE00000), 1}, {to, colorOf(0x0000E0), 1}}, 0.25F, Spread::Repeat);
 }
 
 /// The middle colour ends where the last begins.
@@ -105,8 +105,6 @@ std::vector<Scene> gradientScenes() {
     return {
         {"linear, left to right", inBox(linear({0, 0}, {1, 0}, ObjectBoundingBox)),
          inBox(linear({0, 0}, {0.9F, 0}, ObjectBoundingBox))},
-        {"linear, right to left", inBox(linear({1, 0}, {0, 0}, ObjectBoundingBox)),
-         inBox(linear({1, 0}, {0.1F, 0}, ObjectBoundingBox))},
         {"linear, aslant in a box that is no square", inBox(linear({0, 0}, {1, 1}, ObjectBoundingBox)),
          inBox(linear({4, 6}, {56, 34}, UserSpaceOnUse))},
         {"linear over the page", onThree(linear({2, 0}, {58, 0}, UserSpaceOnUse)),
@@ -117,10 +115,6 @@ std::vector<Scene> gradientScenes() {
          inBox(linear({0.42F, 0}, {0.6F, 0}, ObjectBoundingBox))},
         {"linear, repeated", inBox(linear({0, 0}, {0.25F, 0}, ObjectBoundingBox, Spread::Repeat)),
          inBox(linear({0, 0}, {0.24F, 0}, ObjectBoundingBox, Spread::Repeat))},
-        {"linear, reflected", inBox(linear({0, 0}, {0.4F, 0}, ObjectBoundingBox, Spread::Reflect)),
-         inBox(linear({0, 0}, {0.38F, 0}, ObjectBoundingBox, Spread::Reflect))},
-        {"linear over the page, repeated", inBox(linear({10, 10}, {22, 16}, UserSpaceOnUse, Spread::Repeat)),
-         inBox(linear({11, 10}, {23, 16}, UserSpaceOnUse, Spread::Repeat))},
         {"linear, turned by its matrix", inBox(linear({0, 0}, {1, 0}, ObjectBoundingBox, Spread::Pad, quarterTurn)),
          inBox(linear({0, 0}, {0, 0.9F}, ObjectBoundingBox))},
         {"linear over the page, by a matrix", inBox(linear({0, 0}, {40, 40}, UserSpaceOnUse, Spread::Reflect, shrunk)),
@@ -131,29 +125,17 @@ std::vector<Scene> gradientScenes() {
          turned(25, linear({-12, -10}, {12, 2}, UserSpaceOnUse))},
         {"radial in a box that is no square", inBox(radial({0.5F, 0.5F}, {0.5F, 0.5F}, ObjectBoundingBox)),
          inBox(radial({30, 20}, {20, 20}, UserSpaceOnUse))},
-        {"radial off the centre", inCircle(radial({0.3F, 0.3F}, {0.6F, 0.6F}, ObjectBoundingBox)),
-         inCircle(radial({0.3F, 0.35F}, {0.6F, 0.6F}, ObjectBoundingBox))},
         {"radial with two radii", inBox(radial({0.5F, 0.5F}, {0.25F, 0.5F}, ObjectBoundingBox)),
          inBox(radial({0.5F, 0.5F}, {0.25F, 0.45F}, ObjectBoundingBox))},
-        {"radial over the page, two radii", inBox(radial({30, 20}, {12, 24}, UserSpaceOnUse)),
-         inBox(radial({30, 20}, {13, 24}, UserSpaceOnUse))},
-        {"radial, repeated", inBox(radial({30, 20}, {10, 10}, UserSpaceOnUse, Spread::Repeat)),
-         inBox(radial({30, 20}, {10.5F, 10}, UserSpaceOnUse, Spread::Repeat))},
         {"radial, reflected", inBox(radial({30, 20}, {10, 10}, UserSpaceOnUse, Spread::Reflect)),
          inBox(radial({30, 20}, {10, 9.5F}, UserSpaceOnUse, Spread::Reflect))},
         {"radial by a matrix", inBox(radial({20, 20}, {20, 20}, UserSpaceOnUse, Spread::Pad, shrunk)),
          inBox(radial({20, 20}, {22, 20}, UserSpaceOnUse, Spread::Pad, shrunk))},
-        {"radial, turned with its shape", turned(90, radial({0.5F, 0.5F}, {0.5F, 0.5F}, ObjectBoundingBox)),
-         turned(90, radial({0.5F, 0.5F}, {0.5F, 0.45F}, ObjectBoundingBox))},
         {"radial over the page, turned", turned(25, radial({-4, 0}, {8, 12}, UserSpaceOnUse)),
          turned(25, radial({-4, 0}, {8, 11}, UserSpaceOnUse))},
-        {"a stop that fades", inBox(fading(0)), inBox(fading(0.1F))},
         {"a gradient that is translucent", inBox(fading(0.5F), 0.6F), inBox(fading(0.5F), 0.66F)},
         {"a hard step between colours", inBox(step(0.5F)), inBox(step(0.52F))},
-        {"repeated, with stops off its ends", inBox(between(0.25F, 0.75F, Spread::Repeat)),
-         inBox(between(0.25F, 0.9F, Spread::Repeat))},
-        {"reflected, with stops off its ends", inBox(between(0.25F, 0.75F, Spread::Reflect)),
-         inBox(between(0.25F, 0.9F, Spread::Reflect))},
+        {"repeated, with stops off its ends", inBox(between(0.25F, 0.75F)), inBox(between(0.25F, 0.9F))},
         {"one stop is a colour", inBox(ofStops({{0.5F, colorOf(0x208040), 0.5F}})),
          inBox(ofStops({{0.5F, colorOf(0x208040), 0.6F}}))},
         {"stops without a colour do not count",
