@@ -58,9 +58,6 @@ Drawing written(const String& text, float x = 20, float y = 50, float size = 20)
 void expectPixel(const Picture& picture, int x, int y, std::uint32_t expected, const std::string& why,
                  int tolerance = 1);
 
-/// Nothing is drawn but in the rectangle.
-void expectBlankOutside(const Picture& picture, int left, int top, int right, int bottom, const std::string& why);
-
 struct PixelCase {
     const char* why;
     Drawing draw;

@@ -85,12 +85,10 @@ TEST(Libraries, OnesThatAreMissingAreNamedWithTheirPackages) {
         return std::string("loaded");
     };
     const std::string missing = messageOf([] { DynamicLibrary("libnobody-has.so.7", "libnobody7"); });
-    EXPECT_EQ(missing.substr(0, 31), "1007: the library \"libnobody-ha");
+    EXPECT_TRUE(missing.starts_with("1007: the library \"libnobody-has.so.7\"")) << missing;
     EXPECT_NE(missing.find("package libnobody7"), std::string::npos) << missing;
     const std::string old = messageOf([] { DynamicLibrary("libc.so.6", "libc6").find("nobody_has_this"); });
-    EXPECT_EQ(old,
-              "1008: the library \"libc.so.6\" has no function \"nobody_has_this\"; install a newer one (on Debian the "
-              "package libc6)");
+    EXPECT_TRUE(old.starts_with("1008: the library \"libc.so.6\" has no function \"nobody_has_this\"")) << old;
     EXPECT_TRUE(DynamicLibrary::isInstalled("libc.so.6"));
     EXPECT_FALSE(DynamicLibrary::isInstalled("libnobody-has.so.7"));
 }

@@ -15,6 +15,9 @@ struct Scene {
     bool isBlank = false;  ///< nothing of it shows
 };
 
+/// The drawing under a transform.
+Drawing under(const Matrix& matrix, const Drawing& draw);
+
 std::vector<Scene> strokeScenes();
 std::vector<Scene> shapeScenes();
 std::vector<Scene> gradientScenes();

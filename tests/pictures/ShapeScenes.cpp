@@ -65,14 +65,7 @@ Drawing turned(float degrees) {
     });
 }
 
-Drawing skewed(float x) {
-    return both([=](RenderContext& c) {
-        DrawingState state = c.state();
-        state.transform = Matrix().translate(22, 10).shear(x, 0);
-        c.restoreState(state);
-        c.drawEllipse(8, 8, 12, 8);
-    });
-}
+Drawing skewed(float x) { return both(under(Matrix().translate(22, 10).shear(x, 0), oval(8, 8, 12, 8))); }
 
 Drawing inScopes(std::uint32_t after) {
     return [=](RenderContext& c) {

@@ -39,14 +39,6 @@ Drawing corners(LineJoin join, float miterLimit = 4, float width = 7) {
     return inStroke(stroke, [](RenderContext& c) { c.drawPolygon({{8, 34}, {20, 12}, {32, 34}, {52, 28}}, false); });
 }
 
-Drawing triangle(bool closed, float x = 30) {
-    return inStroke(pen(kInk, 5), [=](RenderContext& c) {
-        c.drawPolygon(
-            closed ? Vector<PointF>{{x, 8}, {50, 32}, {10, 32}} : Vector<PointF>{{x, 8}, {50, 32}, {10, 32}, {x, 8}},
-            closed);
-    });
-}
-
 SmartPtr<Stroke> dashed(const Vector<float>& dashes, float offset, LineCap cap = LineCap::Butt) {
     const SmartPtr<Stroke> stroke = capped(cap, 4);
     stroke->setDashArray(dashes);
@@ -113,8 +105,6 @@ std::vector<Scene> strokeScenes() {
         {"the limit cuts sharp corners", corners(LineJoin::Miter, 2), corners(LineJoin::Miter, 1)},
         {"round joins", corners(LineJoin::Round), corners(LineJoin::Bevel)},
         {"bevel joins", corners(LineJoin::Bevel), corners(LineJoin::Bevel, 4, 8)},
-        {"a closed polygon has a join at its end", triangle(true), triangle(false)},
-        {"an open one has two caps there", triangle(false), triangle(false, 31)},
         {"dashes", dashes({6, 4}, 0), dashes({6, 4}, 1)},
         {"dashes from an offset", dashes({6, 4}, 3), dashes({6, 4}, 4)},
         {"an odd number of dashes", dashes({7, 2, 3}, 2), dashes({7, 2, 3, 0}, 2)},

@@ -28,15 +28,6 @@ Drawing said(const std::string& text, float x = 8, float y = 32, float spacing =
     return [=](RenderContext& c) { c.drawText(text, 1000, x, y, spacing, 0); };
 }
 
-Drawing under(const Matrix& matrix, const Drawing& draw) {
-    return [=](RenderContext& c) {
-        DrawingState state = c.state();
-        state.transform = matrix;
-        c.restoreState(state);
-        draw(c);
-    };
-}
-
 Drawing plain(const std::string& text, float x = 8, float y = 32) { return inFont(inStyle(20), said(text, x, y)); }
 
 Drawing spaced(float spacing) { return inFont(inStyle(16), said("office fit", 8, 32, spacing)); }
@@ -56,36 +47,12 @@ SmartPtr<Brush> overPage(float from) {
     return brush;
 }
 
-Drawing sizes(float smallest) {
-    return [=](RenderContext& c) {
-        c.setFill(solid(0));
-        float y = 10;
-        for (const float size : {smallest, 9.0F, 12.0F}) {
-            c.setFont(fontOf("sans-serif", size));
-            said("Revenue 2024, €1,250.75", 4, y)(c);
-            y += size + 5;
-        }
-    };
-}
-
-Drawing upward(float x) {
-    return inFont(inStyle(14), [=](RenderContext& c) {
-        c.addTranslateTransform(x, 46);
-        c.addRotateTransform(-90);
-        said("Profit", 0, 0)(c);
-    });
-}
-
 Drawing aslant(float degrees) {
     return inFont(inStyle(14), [=](RenderContext& c) {
         c.addTranslateTransform(10, 8);
         c.addRotateTransform(degrees);
         said("September 2024", 0, 4)(c);
     });
-}
-
-Drawing firstLetters(int length) {
-    return inFont(inStyle(20), [=](RenderContext& c) { c.drawText("Quarter", length, 8, 32, 0, 0); });
 }
 
 }  // namespace
@@ -104,7 +71,6 @@ std::vector<Scene> textScenes() {
     return {
         {"text", plain("Growth"), plain("Grovth"), kPage},
         {"text that starts between pixels", plain("Growth", 8.4F, 32.6F), plain("Growth", 8.4F, 32.1F), kPage},
-        {"small text", sizes(6), sizes(6.5F), {170, 50}},
         {"bold", inFont(inStyle(20, Weight::Bold), said("Growth")), plain("Growth"), kPage},
         {"italic", inFont(inStyle(20, Weight::Normal, Style::Italic), said("Growth")), plain("Growth"), kPage},
         {"bold italic", inFont(inStyle(20, Weight::Bold, Style::Italic), said("Growth")),
@@ -121,12 +87,10 @@ std::vector<Scene> textScenes() {
          {180, 50}},
         {"Arabic, a number and Latin", plain(arabic), plain(leftToRight + arabic), {150, 50}},
         {"Latin, Han and Arabic", plain(mixed), plain(rightToLeft + mixed), {180, 50}},
-        {"the first letters", firstLetters(3), firstLetters(4), kPage},
         {"translucent text", inBrush(solid(0xE00000, 0.5F)), inBrush(solid(0xE00000, 0.65F)), kPage},
         {"text in a gradient over the page", inBrush(overPage(8)), inBrush(overPage(24)), kPage},
         {"text in a gradient over its box", inBrush(redToBlue()), inBrush(overPage(24)), kPage},
         {"a family of the machine", inFont(fontOf("monospace", 20), said("Growth")), plain("Growth"), kPage},
-        {"text that runs upward", upward(30), upward(30.6F), kPage},
         {"text aslant", aslant(20), aslant(21.5F), kPage},
         {"text enlarged by a transform", under(enlarged, inFont(inStyle(6), said("Total", 0, 8))),
          under(enlarged, inFont(inStyle(6.2F), said("Total", 0, 8))), kPage},
