@@ -11,8 +11,9 @@ namespace fs = std::filesystem;
 
 constexpr char kArabic[] = "\u0645\u0628\u064A\u0639\u0627\u062A";
 
-FontReport reportFrom(const std::string& directory, const char* text, const char* families = "sans-serif") {
-    return describeFonts(*systemFontService({{directory}}), fontOf(families), text);
+FontReport reportFrom(const std::vector<std::string>& directories, const char* text,
+                      const char* families = "sans-serif") {
+    return describeFonts(*systemFontService({directories}), fontOf(families), text);
 }
 
 TEST(CallersFonts, ComeBeforeThoseOfTheMachine) {
@@ -20,13 +21,13 @@ TEST(CallersFonts, ComeBeforeThoseOfTheMachine) {
     fs::create_directories(directory + "/deeper/still");
     const std::string copy = directory + "/deeper/still/kufi.ttf";
     fs::copy_file(fileOf("Noto Kufi Arabic"), copy);
-    const FontReport byCharacter = reportFrom(directory, kArabic);
+    const FontReport byCharacter = reportFrom({directory}, kArabic);
     ASSERT_EQ(byCharacter.runs.size(), 1U);
     EXPECT_EQ(byCharacter.runs[0].file, copy);
     EXPECT_EQ(byCharacter.face, "Liberation Sans") << "the default family stays built in";
-    EXPECT_EQ(reportFrom(directory, "", "noto kufi arabic").file, copy);
-    EXPECT_EQ(reportFrom(directory, "", "Noto Kufi Arabic, serif").file, copy);
-    EXPECT_EQ(reportFrom(directory, "", "Noto Serif").face, "Noto Serif") << "others are still found";
+    EXPECT_EQ(reportFrom({directory}, "", "noto kufi arabic").file, copy);
+    EXPECT_EQ(reportFrom({directory}, "", "Noto Kufi Arabic, serif").file, copy);
+    EXPECT_EQ(reportFrom({directory}, "", "Noto Serif").face, "Noto Serif") << "others are still found";
     EXPECT_NE(reportOf(kArabic).runs[0].file, copy) << "other services do not know of it";
 }
 
@@ -35,8 +36,8 @@ TEST(CallersFonts, OfSeveralDirectoriesTheFirstWins) {
     const std::string second = freshDirectory("second");
     fs::copy_file(fileOf("Noto Kufi Arabic"), first + "/a.ttf");
     fs::copy_file(fileOf("Noto Naskh Arabic"), second + "/b.ttf");
-    const auto faceFrom = [](std::vector<std::string> directories) {
-        return describeFonts(*systemFontService({std::move(directories)}), fontOf("sans-serif"), kArabic).runs[0].face;
+    const auto faceFrom = [](const std::vector<std::string>& directories) {
+        return reportFrom(directories, kArabic).runs[0].face;
     };
     EXPECT_EQ(faceFrom({first, second}), "Noto Kufi Arabic");
     EXPECT_EQ(faceFrom({second, first}), "Noto Naskh Arabic");

@@ -67,22 +67,6 @@ Drawing turned(float degrees) {
 
 Drawing skewed(float x) { return both(under(Matrix().translate(22, 10).shear(x, 0), oval(8, 8, 12, 8))); }
 
-Drawing inScopes(std::uint32_t after) {
-    return [=](RenderContext& c) {
-        c.setFill(solid(0x208040));
-        {
-            const RenderContextScope scope{SmartPtr<RenderContext>(&c)};
-            c.setFill(solid(0xE00000));
-            c.setStroke(pen(0, 3));
-            c.addTranslateTransform(20, 5);
-            c.setClip(PathCommand::rectangle(0, 0, 16, 16, 0, 0));
-            c.drawEllipse(10, 10, 9, 9);
-        }
-        if (after != 0) c.setFill(solid(after));
-        c.drawRectangle(4, 24, 50, 12, 0, 0);
-    };
-}
-
 }  // namespace
 
 std::vector<Scene> shapeScenes() {
@@ -108,7 +92,6 @@ std::vector<Scene> shapeScenes() {
         {"translucent shapes, their outlines upon them", overlapping(0.5F), overlapping(0.55F)},
         {"turned, then scaled", turned(30), turned(32)},
         {"skewed", skewed(0.6F), skewed(0.5F)},
-        {"a scope restores all it changed", inScopes(0), inScopes(0x309050)},
     };
 }
 
