@@ -54,17 +54,6 @@ Drawing dashes(const Vector<float>& array, float offset, LineCap cap = LineCap::
     });
 }
 
-/// On pixel centres, on pixel edges, and aslant.
-Drawing thinLines(float width) {
-    return inStroke(pen(0, width), [](RenderContext& c) {
-        c.drawLine(5.5F, 4, 5.5F, 36);
-        c.drawLine(15, 4, 15, 36);
-        c.drawLine(25, 6, 55, 6);
-        c.drawLine(25, 12.5F, 55, 12.5F);
-        c.drawLine(25, 20, 55, 36);
-    });
-}
-
 Drawing underScale(float x, float y) {
     return inStroke(pen(kInk, 3), [=](RenderContext& c) {
         c.addTranslateTransform(30, 20);
@@ -106,8 +95,6 @@ std::vector<Scene> strokeScenes() {
         {"dashes with round caps", dashes({0, 8}, 0, LineCap::Round), dashes({0, 9}, 0, LineCap::Round)},
         {"dashes with square caps", dashes({3, 9}, 0, LineCap::Square), dashes({3, 9}, 0, LineCap::Round)},
         {"a dash below zero stands for none", dashes({6, -4}, 0), dashes({6, 4}, 0)},
-        {"lines of a third of a pixel", thinLines(0.33F), thinLines(0.5F)},
-        {"lines of one pixel", thinLines(1), thinLines(1.5F)},
         {"a stroke widens with its transform", underScale(3, 1), underScale(3.1F, 1)},
         {"strokes in a gradient over the box of the shape", inGradient(redToBlue()),
          inGradient(redToBlue(GradientUnits::UserSpaceOnUse))},
