@@ -35,6 +35,13 @@ Drawing alongPath(const SmartPtr<Stroke>& stroke, const SmartPtr<Path>& path) {
 /// From (4, 10) to (36, 10).
 void level(RenderContext& c) { c.drawLine(4, 10, 36, 10); }
 
+/// The same in so many steps that it is drawn in pieces.
+SmartPtr<Path> levelInSteps() {
+    const auto path = make<Path>();
+    for (int step = 0; step <= 320; ++step) path->lineTo({4 + static_cast<float>(step) / 10, 10});
+    return path;
+}
+
 /// A right angle at (20, 20); its outer side looks down and to the right.
 void corner(RenderContext& c) { c.drawPolygon({{5, 20}, {20, 20}, {20, 5}}, false); }
 
@@ -43,6 +50,9 @@ TEST(StrokePixels, LinesAndDashes) {
         {"half of the width on either side",
          stroked(ink(4), level),
          {{4, 8, kInk}, {35, 11, kInk}, {4, 7, 0}, {4, 12, 0}, {3, 10, 0}, {36, 10, 0}}},
+        {"square caps reach half a width further, of pieces as well",
+         alongPath(ink(4, LineCap::Square), levelInSteps()),
+         {{2, 8, kInk}, {37, 11, kInk}, {1, 10, 0}, {38, 10, 0}}},
         {"a right angle's miter is 1.41 widths long: it is cut at 1.4",
          stroked(ink(4, LineCap::Butt, LineJoin::Miter, 1.4F), corner),
          {{21, 21, 0}, {20, 20, kInk}}},

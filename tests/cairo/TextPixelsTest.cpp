@@ -128,7 +128,7 @@ TEST(TextPixels, MasksAndPathsCoverTheSame) {
         for (const std::uint32_t pixel : picture.pixels) ink += pixel >> 24U;
         return ink / 255 / size / size;  // in em x em
     };
-    EXPECT_NEAR(inkAt(511), inkAt(513), 0.001);
+    EXPECT_NEAR(inkAt(511), inkAt(513), 0.0001);
     EXPECT_NEAR(inkAt(12), inkAt(513), 0.01) << "a small one as well";
 }
 
