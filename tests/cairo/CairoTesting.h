@@ -27,6 +27,12 @@ Picture readPng(const std::string& bytes);
 
 inline constexpr SizeF kSmallPage{40, 30};
 
+/// Draws a document of one page that ends; with `fails` it breaks off in the middle.
+void drawPage(CairoSurface& surface, const Drawing& draw, SizeF size, bool fails = false);
+
+/// The code of the exception that an action ends with; else 0.
+int codeOf(const std::function<void()>& action);
+
 std::string pngOf(const Drawing& draw, const PngOptions& options = {}, SizeF page = kSmallPage);
 std::string pdfOf(const Drawing& draw, const DocumentInfo& info = {}, SizeF page = {400, 300},
                   const PdfOptions& options = {});
@@ -51,9 +57,6 @@ Drawing written(const String& text, float x = 20, float y = 50, float size = 20)
 /// Each component may be off by the tolerance; a pixel that does not show may have any colour.
 void expectPixel(const Picture& picture, int x, int y, std::uint32_t expected, const std::string& why,
                  int tolerance = 1);
-
-/// Nothing is drawn but in the rectangle.
-void expectBlankOutside(const Picture& picture, int left, int top, int right, int bottom, const std::string& why);
 
 struct PixelCase {
     const char* why;

@@ -59,34 +59,10 @@ TEST(Pdf, ReadersAreToldOfTheDocument) {
     const std::string asRead = outputOf("qpdf --qdf --object-streams=disable INPUT - | strings", pdf);
     EXPECT_NE(asRead.find("/Lang (de-CH)"), std::string::npos);
     EXPECT_NE(asRead.find("/DisplayDocTitle true"), std::string::npos);
-}
-
-TEST(Pdf, WhatIsNoLanguageIsLeftOut) {
-    const std::string pdf = pdfOf(kSquare, {"", "", "de) /OpenAction 5 0 R (x"});
-    expectSound(pdf);
-    EXPECT_EQ(pdf.find("OpenAction"), std::string::npos);
-    EXPECT_EQ(pdf.find("/Lang"), std::string::npos);
-}
-
-TEST(Pdf, TheSameBytesEachTime) {
-    const DocumentInfo info{"Title", "Text", "en"};
-    const auto draw = [](RenderContext& c) {
-        written("AVA \U0001F600 \u0645\u0631\u062D\u0628\u0627 \u56FE")(c);
-        painted(redToBlue(), pen(0, 2), [](auto& s) { s.drawEllipse(50, 100, 30, 20); })(c);
-    };
-    EXPECT_EQ(pdfOf(draw, info), pdfOf(draw, info));
-    EXPECT_EQ(pngOf(draw), pngOf(draw));
-}
-
-/// Draws a document of one page that ends; with `fails` it breaks off in the middle.
-void drawPage(CairoSurface& surface, const Drawing& draw, SizeF size, bool fails = false) {
-    surface.beginDocument();
-    surface.beginPage(size);
-    draw(surface);
-    surface.restoreState({});
-    if (fails) return;
-    surface.endPage();
-    surface.endDocument();
+    const std::string noLanguage = pdfOf(kSquare, {"", "", "de) /OpenAction 5 0 R (x"});
+    expectSound(noLanguage);
+    EXPECT_EQ(noLanguage.find("OpenAction"), std::string::npos);
+    EXPECT_EQ(noLanguage.find("/Lang"), std::string::npos);
 }
 
 TEST(PdfJoined, DocumentsBecomePages) {
@@ -109,8 +85,7 @@ TEST(PdfJoined, DocumentsBecomePages) {
     EXPECT_EQ(fact(info, "Page +2 size"), "150 x 75 pts");
     EXPECT_EQ(fact(info, "Title"), "Second title") << "of the first document that has one";
     EXPECT_NE(pdf.find("/Lang (fr)"), std::string::npos);
-    std::string text = plainTextOf(pdf);
-    EXPECT_EQ(text, "first second third");
+    EXPECT_EQ(plainTextOf(pdf), "first second third");
 }
 
 TEST(PdfJoined, ASecondFileStartsEmpty) {
@@ -126,32 +101,13 @@ TEST(PdfJoined, ASecondFileStartsEmpty) {
     EXPECT_EQ(stream->bytes().substr(first), stream->bytes().substr(0, first));
 }
 
-TEST(PdfLimits, PageSize) {
-    const auto codeFor = [](SizeF page) {
-        try {
-            pdfOf(kSquare, {}, page);
-        } catch (const Exception& exception) {
-            return exception.getCode();
-        }
-        return 0;
-    };
-    EXPECT_EQ(codeFor({19'200, 10}), 0) << "200 inches";
-    EXPECT_EQ(codeFor({10, 19'201}), 35005);
-    for (const float side : {0.0F, -5.0F, kNaN, kInfinity}) EXPECT_EQ(codeFor({side, 10}), 35000);
-}
-
 TEST(PdfLimits, APageThatIsTooFull) {
     constexpr double kCornersAtMost = (Limits::kPdfBytes - PageRecord::kOperation) / PageRecord::kCorner;
     const auto stream = make<IO::MemoryStream>();
     const auto surface = CairoSurface::pdf(stream);
     const auto tooMany = PathCommand::polygon(Vector<PointF>(static_cast<std::size_t>(kCornersAtMost) + 1), true);
     const auto draw = [&](auto& c) { c.drawPath(tooMany); };
-    try {
-        drawPage(*surface, painted(solid(0xFF0000), nullptr, draw), {100, 100});
-        ADD_FAILURE();
-    } catch (const Exception& exception) {
-        EXPECT_EQ(exception.getCode(), 35007);
-    }
+    EXPECT_EQ(codeOf([&] { drawPage(*surface, painted(solid(0xFF0000), nullptr, draw), {100, 100}); }), 35007);
     drawPage(*surface, painted(nullptr, nullptr, draw), {100, 100});
     EXPECT_GT(stream->bytes().size(), 0U) << "nothing that is painted is nothing that is kept";
 }

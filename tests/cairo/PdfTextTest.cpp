@@ -5,14 +5,13 @@ namespace {
 
 using namespace CairoTesting;
 
-struct TextCase {
-    const char* why;
-    const char* text;
-    const char* extracted;
-};
-
 TEST(PdfText, CanBeCopied) {
-    const TextCase cases[] = {
+    struct Case {
+        const char* why;
+        const char* text;
+        const char* extracted;
+    };
+    const Case cases[] = {
         {"letters with kerning", "AVATAR Wave To.", "AVATAR Wave To."},
         {"ligatures", "office fluffy", "office fluffy"},
         {"accents, and one that combines", "Größe a\u0301b", "Größe a\u0301b"},
@@ -24,7 +23,7 @@ TEST(PdfText, CanBeCopied) {
         {"Arabic and its numbers between Latin words, from left to right", "The new price السعر 250 ريال at the end",
          "The new price \u202B ريال\u202C250 \u202B السعر\u202Cat the end"},
         {"Indic letters that change places", "हिन्दी", "हिन्दी"},
-        {"emoji", "Sales 😀 are up", "Sales 😀 are up"},
+        {"each emoji has its own text", "🎉 and ✅ and 😀 and 🎉", "🎉 and ✅ and 😀 and 🎉"},
         {"emoji of several characters", "From 🇨🇭 to Rome", "From 🇨🇭 to Rome"},
         {"control characters are blanks", "North\tand south", "North and south"},
     };
@@ -35,14 +34,11 @@ TEST(PdfText, CanBeCopied) {
     }
 }
 
-TEST(PdfText, EachEmojiHasItsOwnText) {
-    const std::string pdf = pdfOf(written("🎉 and ✅ and 😀 and 🎉"));
-    expectSound(pdf);
-    EXPECT_EQ(plainTextOf(pdf), "🎉 and ✅ and 😀 and 🎉");
-    const Picture picture = renderedPdf(pdf);
+TEST(PdfText, EmojiAreInColour) {
     int colored = 0;
-    for (const std::uint32_t pixel : picture.pixels) colored += (pixel >> 16U & 0xFFU) > (pixel & 0xFFU) + 60 ? 1 : 0;
-    EXPECT_GT(colored, 200) << "the pictures are there";
+    for (const std::uint32_t pixel : renderedPdf(pdfOf(written("🎉 and ✅"))).pixels)
+        colored += (pixel >> 16U & 0xFFU) > (pixel & 0xFFU) + 60 ? 1 : 0;
+    EXPECT_GT(colored, 100);
 }
 
 TEST(PdfText, FontsAreEmbeddedInParts) {

@@ -123,8 +123,8 @@ private:
     std::shared_ptr<FontService> previous_;
 };
 
-/// Measures as the fixed-width fonts, but bold characters twice as wide, W ten times, and AV apart; counts the characters
-/// that it is asked for.
+/// Measures as the fixed-width fonts, but bold characters twice as wide, W ten times, and AV apart; counts the
+/// characters that it is asked for.
 class CountingFonts final : public FontService {
 public:
     SmartPtr<FontProgram> getFont(const Font& font) override;

@@ -37,23 +37,13 @@ TEST(Bidi, LevelsFollowTheLettersAndTheNumbers) {
 }
 
 TEST(Bidi, PiecesAreSeenInTheOrderOfTheirLevels) {
-    struct Case {
-        std::vector<BidiLevel> levels;
-        std::vector<std::uint32_t> order;
-    };
-    const Case cases[] = {
-        {{}, {}},
-        {{0, 0, 0}, {0, 1, 2}},
-        {{1, 1, 1}, {2, 1, 0}},
-        {{0, 1, 1, 0}, {0, 2, 1, 3}},
-        {{1, 2, 2, 1}, {3, 1, 2, 0}},
-        {{0, 1, 2, 1, 0}, {0, 3, 2, 1, 4}},
-        {{2, 2}, {0, 1}},
-        {{3, 4, 4, 3}, {3, 1, 2, 0}},
-        {{1, 2, 3, 2, 1}, {4, 1, 2, 3, 0}},
-        {{1, 2, 3, 3, 2, 1, 0}, {5, 1, 3, 2, 4, 0, 6}},
-    };
-    for (const Case& c : cases) EXPECT_EQ(visualOrder(c.levels), c.order) << testing::PrintToString(c.levels);
+    const auto orderOf = [](std::vector<BidiLevel> levels) { return visualOrder(levels); };
+    using Order = std::vector<std::uint32_t>;
+    EXPECT_EQ(orderOf({}), Order());
+    EXPECT_EQ(orderOf({2, 2}), (Order{0, 1}));
+    EXPECT_EQ(orderOf({1, 1, 1}), (Order{2, 1, 0}));
+    EXPECT_EQ(orderOf({3, 4, 4, 3}), (Order{3, 1, 2, 0}));
+    EXPECT_EQ(orderOf({1, 2, 3, 3, 2, 1, 0}), (Order{5, 1, 3, 2, 4, 0, 6}));
 }
 
 /// The characters as they are seen from left to right.

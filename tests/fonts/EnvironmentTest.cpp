@@ -1,4 +1,5 @@
 #include <cstdlib>
+#include <functional>
 
 #include "tests/fonts/FontTestTools.h"
 #include "vexa/support/core/DynamicLibrary.h"
@@ -10,13 +11,6 @@
 namespace VEXA::Testing {
 namespace {
 
-class Environment : public testing::Test {
-protected:
-    Environment() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
-};
-
-constexpr char kSilence[] = "^$";
-
 /// Ends the process: with 0 if what was got is what was expected.
 template <class T>
 [[noreturn]] void endWith(const T& got, const T& expected) {
@@ -24,17 +18,11 @@ template <class T>
     std::_Exit(got == expected ? 0 : 1);
 }
 
-void useConfiguration(const char* file) {
-    setenv("FONTCONFIG_FILE", file, 1);
+void useConfiguration(const std::string& file) {
+    setenv("FONTCONFIG_FILE", file.c_str(), 1);
     setenv("FONTCONFIG_PATH", "/nonexistent", 1);
     unsetenv("HOME");
     unsetenv("XDG_CACHE_HOME");
-}
-
-std::string emptyConfiguration() {
-    const std::string file = freshDirectory("configuration") + "/fonts.conf";
-    writeFile(file, "<fontconfig/>");
-    return file;
 }
 
 /// What texts come to where there is no font but the built-in one.
@@ -48,21 +36,35 @@ void measureAlone() {
     endWith(widths, expected);
 }
 
-TEST_F(Environment, WithoutConfigurationTheBuiltInFontServes) {
-    EXPECT_EXIT((useConfiguration("/nonexistent/fonts.conf"), measureAlone()), testing::ExitedWithCode(0), kSilence);
+void useOtherLocale() {
+    setenv("LC_ALL", "ja_JP.UTF-8", 1);
+    setenv("LANG", "ko_KR.UTF-8", 1);
+    setenv("FC_LANG", "ja", 1);
+    endWith<std::string>(runsOf(reportOf("\u6F22", "Nobody Has This")), "[\u6F22] Noto Sans CJK SC; ");
 }
 
-TEST_F(Environment, WithoutFontsTheBuiltInFontServes) {
-    EXPECT_EXIT((useConfiguration(emptyConfiguration().c_str()), measureAlone()), testing::ExitedWithCode(0), kSilence);
+TEST(Environment, WithLittleOfItTextsAreDrawnAllTheSame) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const std::string directory = freshDirectory("environment");
+    writeFile(directory + "/no-fonts.conf", "<fontconfig/>");
+    writeFile(directory + "/empty.conf", "");
+    struct Case {
+        const char* why;
+        std::function<void()> use;
+        const char* complaint = "^$";
+    };
+    const Case cases[] = {
+        {"without a configuration", [] { useConfiguration("/nonexistent/fonts.conf"), measureAlone(); }},
+        {"without fonts", [&] { useConfiguration(directory + "/no-fonts.conf"), measureAlone(); }},
+        {"with a broken configuration fontconfig complains",
+         [&] { useConfiguration(directory + "/empty.conf"), measureAlone(); }, "no element found"},
+        {"the locale makes no difference", useOtherLocale},
+    };
+    for (const Case& c : cases) EXPECT_EXIT(c.use(), testing::ExitedWithCode(0), c.complaint) << c.why;
 }
 
-TEST_F(Environment, AnEmptyConfigurationFileIsComplainedOfByFontconfigAlone) {
-    const std::string file = freshDirectory("empty") + "/fonts.conf";
-    writeFile(file, "");
-    EXPECT_EXIT((useConfiguration(file.c_str()), measureAlone()), testing::ExitedWithCode(0), "no element found");
-}
-
-TEST_F(Environment, CallersFontsNeedNoConfiguration) {
+TEST(Environment, CallersFontsNeedNoConfiguration) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     const std::string directory = freshDirectory("callers");
     writeFile(directory + "/kufi.ttf", bytesOf(fileOf("Noto Kufi Arabic")));
     const auto use = [&] {
@@ -70,17 +72,7 @@ TEST_F(Environment, CallersFontsNeedNoConfiguration) {
         const auto report = describeFonts(*systemFontService({{directory}}), fontOf("sans-serif"), "a\u0645");
         endWith<std::string>(runsOf(report), "[a] Liberation Sans; [\u0645] Noto Kufi Arabic; ");
     };
-    EXPECT_EXIT(use(), testing::ExitedWithCode(0), kSilence);
-}
-
-TEST_F(Environment, TheLocaleMakesNoDifference) {
-    const auto use = [] {
-        setenv("LC_ALL", "ja_JP.UTF-8", 1);
-        setenv("LANG", "ko_KR.UTF-8", 1);
-        setenv("FC_LANG", "ja", 1);
-        endWith<std::string>(runsOf(reportOf("\u6F22", "Nobody Has This")), "[\u6F22] Noto Sans CJK SC; ");
-    };
-    EXPECT_EXIT(use(), testing::ExitedWithCode(0), kSilence);
+    EXPECT_EXIT(use(), testing::ExitedWithCode(0), "^$");
 }
 
 TEST(Libraries, OnesThatAreMissingAreNamedWithTheirPackages) {
@@ -93,12 +85,10 @@ TEST(Libraries, OnesThatAreMissingAreNamedWithTheirPackages) {
         return std::string("loaded");
     };
     const std::string missing = messageOf([] { DynamicLibrary("libnobody-has.so.7", "libnobody7"); });
-    EXPECT_EQ(missing.substr(0, 31), "1007: the library \"libnobody-ha");
+    EXPECT_TRUE(missing.starts_with("1007: the library \"libnobody-has.so.7\"")) << missing;
     EXPECT_NE(missing.find("package libnobody7"), std::string::npos) << missing;
     const std::string old = messageOf([] { DynamicLibrary("libc.so.6", "libc6").find("nobody_has_this"); });
-    EXPECT_EQ(old,
-              "1008: the library \"libc.so.6\" has no function \"nobody_has_this\"; install a newer one (on Debian the "
-              "package libc6)");
+    EXPECT_TRUE(old.starts_with("1008: the library \"libc.so.6\" has no function \"nobody_has_this\"")) << old;
     EXPECT_TRUE(DynamicLibrary::isInstalled("libc.so.6"));
     EXPECT_FALSE(DynamicLibrary::isInstalled("libnobody-has.so.7"));
 }

@@ -20,7 +20,6 @@ TEST(Fallback, EachPieceComesFromAFontThatHasIt) {
         {"a space between fonts is the first one's", "\u56FE a", "[\u56FE] Noto Sans CJK SC; [ a] Liberation Sans; "},
         {"Devanagari, vowel signs with their letters", "\u0928\u092E\u0938\u094D\u0924\u0947",
          "[\u0928\u092E\u0938\u094D\u0924\u0947] Noto Sans Devanagari; "},
-        {"Thai", "\u0E20\u0E32\u0E29\u0E32", "[\u0E20\u0E32\u0E29\u0E32] Noto Sans Thai; "},
         {"letters in a row of emoji", "\U0001F600a\U0001F600",
          "[\U0001F600] Noto Color Emoji; [a] Liberation Sans; [\U0001F600] Noto Color Emoji; "},
         {"emoji are one run",
@@ -30,11 +29,11 @@ TEST(Fallback, EachPieceComesFromAFontThatHasIt) {
          "1\uFE0F\u20E3] Noto Color Emoji; "},
         {"a sign that the first font has, plain and in colour", "\u263A\u263A\uFE0F",
          "[\u263A] Liberation Sans; [\u263A\uFE0F] Noto Color Emoji; "},
-        {"a letter with a mark that the font has as one", "e\u0301", "[e\u0301] Liberation Sans; "},
-        {"runes", "\u16A0", "[\u16A0] Noto Sans Runic; "},
         {"beyond 16 bits", "\U00012000", "[\U00012000] Noto Sans Cuneiform; "},
         {"a hyphen that does not break a line is a hyphen", "a\u2011b", "[a\u2011b] Liberation Sans; "},
         {"a wide space is made of a narrow one", "a\u205Fb", "[a\u205Fb] Liberation Sans; "},
+        {"a mark that the letter's font lacks comes from another", "a\u0C4Db",
+         "[a] Liberation Sans; [\u0C4D] Noto Sans Telugu; [b] Liberation Sans; "},
         {"what has no look is not missing", "a\u2060b\u00AD", "[a\u2060b\u00AD] Liberation Sans; "},
     };
     for (const Case& c : cases) {
@@ -44,9 +43,26 @@ TEST(Fallback, EachPieceComesFromAFontThatHasIt) {
     }
 }
 
-TEST(Fallback, FollowsTheStyle) {
-    EXPECT_EQ(runsOf(reportOf("\u56FE", "sans-serif", {true, false})), "[\u56FE] Noto Sans CJK SC Bold; ");
-    EXPECT_EQ(runsOf(reportOf("\u0928", "Arial", {true, true})), "[\u0928] Noto Sans Devanagari Bold; ");
+TEST(Fallback, FollowsFamiliesAndStyle) {
+    struct Case {
+        const char* why;
+        const char* families;
+        FontStyleRequest style;
+        const char* text;
+        const char* runs;
+    };
+    const Case cases[] = {
+        {"bold", "sans-serif", {true, false}, "\u56FE", "[\u56FE] Noto Sans CJK SC Bold; "},
+        {"no italic of its own", "Arial", {true, true}, "\u0928", "[\u0928] Noto Sans Devanagari Bold; "},
+        {"a generic family", "Arial, serif", {}, "\u4E2D", "[\u4E2D] Noto Serif CJK SC; "},
+        {"none, however serif it is", "Times New Roman", {}, "\u4E2D", "[\u4E2D] Noto Sans CJK SC; "},
+        {"later families come before the machine's fonts",
+         "Arial, Noto Kufi Arabic",
+         {},
+         "a\u0645",
+         "[a] Liberation Sans; [\u0645] Noto Kufi Arabic; "},
+    };
+    for (const Case& c : cases) EXPECT_EQ(runsOf(reportOf(c.text, c.families, c.style)), c.runs) << c.why;
 }
 
 // The font of a character hangs on nothing that was asked before.
@@ -56,33 +72,27 @@ TEST(Fallback, IsTheSameInEveryOrder) {
     EXPECT_EQ(runsOf(reportOf("\u2713")), alone);
 }
 
-TEST(Fallback, ArabicIsOneRunFromRightToLeft) {
+TEST(Fallback, ArabicIsOneRunOfJoinedLetters) {
     const FontReport report = reportOf("\u0645\u0628\u064A\u0639\u0627\u062A \u0633\u0646\u0648\u064A\u0629");
     ASSERT_EQ(report.runs.size(), 1U);
     EXPECT_TRUE(report.runs[0].isRightToLeft);
     EXPECT_EQ(report.missing, U"");
     double apart = 0;
-    for (const char* letter : {"\u0645", "\u0628", "\u064A", "\u0639", "\u0627", "\u062A"}) {
-        apart += reportOf(letter).width;
-    }
-    EXPECT_LT(reportOf("\u0645\u0628\u064A\u0639\u0627\u062A").width, apart) << "joined letters are narrower";
-}
-
-TEST(Fallback, JoinersWorkAcrossFonts) {
+    for (const char* letter : {"\u0645", "\u0628", "\u064A"}) apart += reportOf(letter).width;
+    EXPECT_LT(reportOf("\u0645\u0628\u064A").width, apart) << "joined letters are narrower";
     const double alone = reportOf("\u0647").width;
-    EXPECT_NE(reportOf("\u0647\u200D").width, alone) << "the form that joins the next letter";
+    EXPECT_NE(reportOf("\u0647\u200D").width, alone) << "a joiner of another font: the form that joins the next letter";
     EXPECT_EQ(reportOf("\u0647\u200C").width, alone);
 }
 
 TEST(Fallback, EmojiOfSeveralCharactersAreOneGlyph) {
-    const char* const sequences[] = {"\U0001F469\u200D\U0001F469\u200D\U0001F467\u200D\U0001F466",
-                                     "\U0001F1EB\U0001F1F7", "1\uFE0F\u20E3", "\U0001F44D\U0001F3FD", "\u2764\uFE0F"};
-    for (const char* text : sequences) {
-        const FontReport report = reportOf(text);
-        ASSERT_EQ(report.runs.size(), 1U) << text;
-        EXPECT_EQ(report.runs[0].glyphCount, 1U) << text;
+    for (const char* text : {"\U0001F469\u200D\U0001F469\u200D\U0001F467\u200D\U0001F466", "\U0001F1EB\U0001F1F7",
+                             "1\uFE0F\u20E3", "\U0001F44D\U0001F3FD", "\u2764\uFE0F"}) {
+        const ShapedText line = shaped(text);
+        ASSERT_EQ(line.runs.size(), 1U) << text;
+        EXPECT_EQ(line.runs[0].glyphs.size(), 1U) << text;
+        EXPECT_TRUE(line.runs[0].face->isColored()) << text;
     }
-    EXPECT_TRUE(shaped("\U0001F600").runs[0].face->isColored());
 }
 
 TEST(Fallback, WhatNoFontHasIsABoxAndIsNoted) {
@@ -99,20 +109,10 @@ TEST(Fallback, WhatNoFontHasIsABoxAndIsNoted) {
         EXPECT_EQ(FontManager::takeMissing(), line.missing) << time;
     }
     EXPECT_EQ(shaped(String(U"\u0915\U000F0000")).missing, U"\U000F0000");
-    FontManager::takeMissing();
-}
-
-TEST(Fallback, AMarkThatTheLettersFontLacksComesFromAnother) {
-    const FontReport report = reportOf("a\u0C4Db");
-    EXPECT_EQ(report.missing, U"");
-    EXPECT_EQ(runsOf(report), "[a] Liberation Sans; [\u0C4D] Noto Sans Telugu; [b] Liberation Sans; ");
-    EXPECT_EQ(reportOf("a\uE000\u0C4D").missing, U"\uE000");
-}
-
-TEST(Fallback, ThousandsOfMissingCharactersAreNotAllKept) {
-    std::u32string text;
-    for (char32_t c = 0xF0000; c < 0xF1000; ++c) text.push_back(c);
-    EXPECT_EQ(shaped(String(text)).missing.size(), 80U);
+    EXPECT_EQ(shaped(String(U"a\uE000\u0C4D")).missing, U"\uE000") << "with a mark that another font has";
+    std::u32string thousands;
+    for (char32_t c = 0xF0000; c < 0xF1000; ++c) thousands.push_back(c);
+    EXPECT_EQ(shaped(String(thousands)).missing.size(), 80U) << "not all are kept";
     FontManager::takeMissing();
 }
 

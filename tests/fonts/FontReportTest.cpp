@@ -24,13 +24,6 @@ TEST(FontReport, TellsTheRunsInTheOrderOfTheText) {
     EXPECT_NEAR(report.runs[3].width, 2 * 1139 * 100 / 2048.0, 1e-6) << "two figures, in px of a font of 100 px";
 }
 
-TEST(FontReport, AnEmptyTextHasNoRuns) {
-    const FontReport report = reportOf("", "Liberation Mono");
-    EXPECT_EQ(report.face, "Liberation Mono");
-    EXPECT_TRUE(report.runs.empty());
-    EXPECT_EQ(report.width, 0);
-}
-
 TEST(FontReport, NeedsAServiceThatShapes) {
     EXPECT_THROW(describeFonts(*fixedWidthFontService(), fontOf("Arial"), "a"), UnreacheableCodeException);
 }

@@ -6,39 +6,6 @@
 namespace VEXA::Testing {
 namespace {
 
-TEST(Threads, MeasureTheSame) {
-    const char* const texts[] = {"Total 2024",
-                                 "\u56FE\u8868",
-                                 "\u0645\u0628\u064A\u0639\u0627\u062A 12",
-                                 "\u05D0b\u05D1",
-                                 "\u0928\u092E\u0938\u094D\u0924\u0947",
-                                 "\U0001F600\U0001F1EB\U0001F1F7",
-                                 "\uE000",
-                                 "e\u0303"};
-    const char* const families[] = {"sans-serif", "serif", "Noto Serif, Arial", "Times New Roman", "Nobody Has This"};
-    const auto widths = [&](std::size_t start) {
-        std::vector<int> result(std::size(texts) * std::size(families) * 4);
-        for (std::size_t k = 0; k < result.size(); ++k) {
-            const std::size_t i = (k + start) % result.size();
-            const char* const family = families[i / 4 % std::size(families)];
-            const auto program = systemFontService()->getFont(fontOf(family, kStyles[i % 4]));
-            result[i] = program->measureString(texts[i / 4 / std::size(families)]);
-        }
-        FontManager::takeMissing();
-        return result;
-    };
-    std::vector<std::vector<int>> found(8);
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < found.size(); ++i) {
-        threads.emplace_back([&, i] {
-            for (int round = 0; round < 20; ++round) found[i] = widths(i * 17);
-        });
-    }
-    for (std::thread& thread : threads) thread.join();
-    for (const auto& each : found) EXPECT_EQ(each, found[0]);
-    EXPECT_EQ(found[0], widths(0)) << "as one thread measures alone";
-}
-
 TEST(Threads, MakeADrawingFaceOnce) {
     int made = 0;
     const auto face = compiledFace({});

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 
 #include "tests/pictures/Comparison.h"
@@ -14,43 +13,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Charts {
-    std::vector<std::string> names;
+TEST(Charts, LookTheSameOnEverySurface) {
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(fs::path(VEXA_SOURCE_DIR) / "examples")) {
+        if (entry.path().extension() == ".xml") files.push_back(entry.path());
+    }
+    ASSERT_GT(files.size(), 0U);
     std::vector<Document> documents;
-
-    Charts() {
-        std::vector<fs::path> files;
-        for (const auto& entry : fs::directory_iterator(fs::path(VEXA_SOURCE_DIR) / "examples")) {
-            if (entry.path().extension() == ".xml") files.push_back(entry.path());
-        }
-        std::sort(files.begin(), files.end());
-        for (const fs::path& file : files) {
-            names.push_back(file.stem().string());
-            documents.push_back([file](const SmartPtr<RenderContext>& surface) {
-                VexaEngine::renderPage(make<IO::FileStream>(file.string(), IO::FileStream::Mode::Read), surface);
-            });
+    for (const fs::path& file : files) {
+        documents.push_back([file](const SmartPtr<RenderContext>& surface) {
+            VexaEngine::renderPage(make<IO::FileStream>(file.string(), IO::FileStream::Mode::Read), surface);
+        });
+    }
+    const auto png = drawnAsPng(documents);
+    const auto svg = drawnAsSvg("charts", documents, 2);
+    const auto pdf = drawnAsPdf("charts", documents, 6);
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const std::string name = files[i].stem().string();
+        for (const auto& [surface, picture] : {std::pair("chart as SVG", &svg[i]), {"chart as PDF", &pdf[i]}}) {
+            expectAlike(name, surface, png[i], *picture);
+            const Picture moved = picture->cut({1, 0, picture->width(), picture->height()});
+            EXPECT_FALSE(areAlike(name, surface, png[i], moved)) << name << ", a pixel to the left of its " << surface;
         }
     }
-};
-
-void expectAlike(const char* surface, const std::vector<Picture>& png, const std::vector<Picture>& others) {
-    const Charts charts;
-    ASSERT_GT(charts.names.size(), 0U);
-    for (std::size_t i = 0; i < charts.names.size(); ++i) {
-        expectAlike(charts.names[i], surface, png[i], others[i]);
-        const Picture moved = others[i].cut({1, 0, others[i].width(), others[i].height()});
-        EXPECT_FALSE(areAlike(charts.names[i], surface, png[i], moved)) << charts.names[i] << ": a pixel to the left";
-    }
-}
-
-TEST(Charts, LookTheSameInSvg) {
-    const Charts charts;
-    expectAlike("chart as SVG", drawnAsPng(charts.documents), drawnAsSvg("charts", charts.documents, 2));
-}
-
-TEST(Charts, LookTheSameInPdf) {
-    const Charts charts;
-    expectAlike("chart as PDF", drawnAsPng(charts.documents), drawnAsPdf("charts", charts.documents, 6));
 }
 
 }  // namespace

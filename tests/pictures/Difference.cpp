@@ -67,14 +67,6 @@ Picture distance(const Picture& a, const Picture& b) {
     return picture;
 }
 
-Picture enlarged(const Picture& picture, int factor) {
-    Picture large(picture.width() * factor, picture.height() * factor);
-    for (int y = 0; y < large.height(); ++y) {
-        for (int x = 0; x < large.width(); ++x) large.set(x, y, picture.at(x / factor, y / factor));
-    }
-    return large;
-}
-
 }  // namespace
 
 Difference differenceOf(const Picture& a, const Picture& b) {
@@ -98,18 +90,12 @@ Difference differenceOf(const Picture& a, const Picture& b) {
 }
 
 void writeComparison(const Picture& expected, const Picture& actual, const std::string& path) {
-    constexpr int kSmall = 150;  // px; such a picture is shown at four times its size
     constexpr int kGap = 8;
-    const int factor = expected.width() < kSmall ? 4 : 1;
-    const Picture parts[] = {enlarged(expected, factor), enlarged(actual, factor),
-                             enlarged(distance(expected, actual), factor)};
-    Picture sheet(parts[0].width() + parts[1].width() + parts[2].width() + 2 * kGap,
-                  std::max(parts[0].height(), parts[1].height()));
-    int x = 0;
-    for (const Picture& part : parts) {
-        sheet.paste(part, x, 0);
-        x += part.width() + kGap;
-    }
+    const int width = expected.width() + kGap;
+    Picture sheet(2 * width + actual.width(), std::max(expected.height(), actual.height()));
+    sheet.paste(expected, 0, 0);
+    sheet.paste(distance(expected, actual), width, 0);
+    sheet.paste(actual, 2 * width, 0);
     sheet.writePng(path);
 }
 

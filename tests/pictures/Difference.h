@@ -21,8 +21,7 @@ struct Difference {
 /// Pictures of different sizes have nothing in common.
 Difference differenceOf(const Picture& a, const Picture& b);
 
-/// Writes the expected picture, the actual one and their difference (black where they agree), side by side and
-/// enlarged when small, as a PNG.
+/// Writes the expected picture, their difference (black where they agree) and the actual one, side by side, as a PNG.
 void writeComparison(const Picture& expected, const Picture& actual, const std::string& path);
 
 }  // namespace VEXA::Testing

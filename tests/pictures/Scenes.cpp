@@ -2,6 +2,15 @@
 
 namespace VEXA::Testing {
 
+Drawing under(const Matrix& matrix, const Drawing& draw) {
+    return [=](RenderContext& c) {
+        DrawingState state = c.state();
+        state.transform = matrix;
+        c.restoreState(state);
+        draw(c);
+    };
+}
+
 std::vector<Scene> allScenes() {
     std::vector<Scene> all;
     for (const auto& part : {strokeScenes(), shapeScenes(), gradientScenes(), clipScenes(), textScenes(), oddScenes()})

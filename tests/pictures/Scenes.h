@@ -6,15 +6,17 @@
 
 namespace VEXA::Testing {
 
-/// A small drawing that every surface shows alike.
+/// A small drawing that every surface shows alike; each of its operations leaves a mark, unless the scene is blank.
 struct Scene {
     const char* name;
     Drawing draw;
-    int operations;       ///< how many it draws; each leaves a mark of its own, unless the scene is blank
     Drawing almost = {};  ///< the same drawing with a slight fault, which no comparison may miss
     SizeF page = {60, 40};
     bool isBlank = false;  ///< nothing of it shows
 };
+
+/// The drawing under a transform.
+Drawing under(const Matrix& matrix, const Drawing& draw);
 
 std::vector<Scene> strokeScenes();
 std::vector<Scene> shapeScenes();
