@@ -49,7 +49,7 @@ TEST(AxisTicks, NumbersAreASteppedRange) {
     };
     for (const auto& c : cases) {
         NumericSteps steps = c.steps;
-        const AxisTicks ticks = numericTicks(steps);
+        const AxisTicks ticks = numericTicks(steps, 100);
         EXPECT_EQ(shown(ticks.values), c.values) << c.why;
         EXPECT_FLOAT_EQ(steps.min, c.min) << c.why;
         EXPECT_FLOAT_EQ(steps.max, c.max) << c.why;
@@ -75,7 +75,7 @@ TEST(AxisTicks, DatesAreTheStartsOfDaysMonthsAndYears) {
         {{9999, 12, 30}, {9999, 12, 31}, DateUnit::Days, "9999-12-30 9999-12-31", "the end of the calendar"},
         {{2024, 5, 2}, {2024, 5, 1}, DateUnit::Days, "", "nothing backwards"},
     };
-    for (const auto& c : cases) EXPECT_EQ(shown(dateTicks(c.first, c.last, c.unit).values), c.values) << c.why;
+    for (const auto& c : cases) EXPECT_EQ(shown(dateTicks(c.first, c.last, c.unit, 4).values), c.values) << c.why;
 }
 
 TEST(AxisTicks, DateUnitIsTheFinestThatFits) {

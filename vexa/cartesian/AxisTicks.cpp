@@ -3,7 +3,6 @@
 #include <charconv>
 #include <cmath>
 
-#include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Math.h"
 #include "vexa/util/Util.h"
 
@@ -17,9 +16,9 @@ constexpr int kMonthsOfYear = 12;
 void emit(AxisTicks& ticks, float value) { ticks.values.emplace_back(static_cast<double>(value)); }
 
 /// Whether there may be so many values; otherwise both ends stand for them.
-bool hasRoom(AxisTicks& ticks, double wanted, const Value& first, const Value& last) {
+bool hasRoom(AxisTicks& ticks, std::size_t room, double wanted, const Value& first, const Value& last) {
     ticks.wanted = wanted;
-    ticks.isThinned = wanted > static_cast<double>(Limits::kAxisValues);
+    ticks.isThinned = wanted > static_cast<double>(room);
     if (ticks.isThinned) ticks.values = {first, last};
     return !ticks.isThinned;
 }
@@ -96,12 +95,12 @@ DateTimeEx unitStart(std::int64_t number, DateUnit unit) noexcept {
 
 }  // namespace
 
-AxisTicks numericTicks(NumericSteps& steps) {
+AxisTicks numericTicks(NumericSteps& steps, std::size_t room) {
     auto& [min, max, step, hasMin, hasMax] = steps;
     if (step < max - min && !hasMin && !hasMax) snap(min, max, step);
     AxisTicks ticks;
     const double count = step > 0 ? (static_cast<double>(max) - min) / step + 1 : 1;
-    if (!hasRoom(ticks, count, Value(static_cast<double>(min)), Value(static_cast<double>(max)))) return ticks;
+    if (!hasRoom(ticks, room, count, Value(static_cast<double>(min)), Value(static_cast<double>(max)))) return ticks;
     const float first = hasMax && !hasMin ? firstBefore(max, min, step) : min;
     emitBelow(ticks, first, max, step);
     if (!hasMin && first != max) emit(ticks, max);
@@ -117,11 +116,11 @@ DateUnit dateUnit(AxisUnitsType given, int labelCount, const DateTimeEx& first, 
     return DateUnit::Years;
 }
 
-AxisTicks dateTicks(const DateTimeEx& first, const DateTimeEx& last, DateUnit unit) {
+AxisTicks dateTicks(const DateTimeEx& first, const DateTimeEx& last, DateUnit unit, std::size_t room) {
     AxisTicks ticks;
     const std::int64_t begin = unitNumber(first, unit);
     const std::int64_t end = unitNumber(last, unit);
-    if (!hasRoom(ticks, static_cast<double>(end - begin + 1), Value(unitStart(begin, unit)),
+    if (!hasRoom(ticks, room, static_cast<double>(end - begin + 1), Value(unitStart(begin, unit)),
                  Value(unitStart(end, unit))))
         return ticks;
     for (std::int64_t number = begin; number <= end; ++number) ticks.values.emplace_back(unitStart(number, unit));

@@ -8,7 +8,7 @@ namespace VEXA {
 struct AxisTicks {
     Vector<Value> values;
     double wanted = 0;       ///< how many values the step asks for
-    bool isThinned = false;  ///< more than Limits::kAxisValues of them: only the first and the last one are there
+    bool isThinned = false;  ///< there is no room for so many: only the first and the last one are there
 };
 
 /// What the values of a numeric axis are made of.
@@ -22,8 +22,8 @@ struct NumericSteps {
 
 /// Moves the bounds of `steps` onto multiples of the step when the document fixes neither, then takes the values. In
 /// single precision, rounded after each addition; a value within a ten-thousandth of a step of zero or of the last
-/// value is that.
-AxisTicks numericTicks(NumericSteps& steps);
+/// value is that. At most `room` of them, 2 or more.
+AxisTicks numericTicks(NumericSteps& steps, std::size_t room);
 
 enum class DateUnit : std::uint8_t { Days, Months, Years };
 
@@ -32,7 +32,7 @@ enum class DateUnit : std::uint8_t { Days, Months, Years };
 DateUnit dateUnit(AxisUnitsType given, int labelCount, const DateTimeEx& first, const DateTimeEx& last) noexcept;
 
 /// 00:00:00 of each day, of the first of each month or of each 1 January, from the unit that `first` lies in to the one
-/// of `last`. None when `last` is the earlier one.
-AxisTicks dateTicks(const DateTimeEx& first, const DateTimeEx& last, DateUnit unit);
+/// of `last`, at most `room` of them, 2 or more. None when `last` is the earlier one.
+AxisTicks dateTicks(const DateTimeEx& first, const DateTimeEx& last, DateUnit unit, std::size_t room);
 
 }  // namespace VEXA

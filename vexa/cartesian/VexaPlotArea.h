@@ -120,6 +120,8 @@ private:
     Vector<Value> makeAxisValues(VexaRenderContext& context, bool category);
     Vector<Value> makeNumericValues(VexaRenderContext& context, bool category);
     Vector<Value> makeDateValues(VexaRenderContext& context, bool category);
+    /// Takes the values off the picture's room, or tells why not all are there.
+    static void takeValues(VexaRenderContext& context, VexaAxisObject& axis, const AxisTicks& ticks, bool isUnitGiven);
     static void tellThinned(VexaAxisObject& axis, const AxisTicks& ticks, bool isUnitGiven);
 
     TXmlAttribute<bool> showCaptions_{DefaultTrueBoolAttribute};

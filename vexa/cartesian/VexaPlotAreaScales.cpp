@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "vexa/cartesian/VexaPlotArea.h"
 #include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Log.h"
@@ -21,11 +23,9 @@ String nameOf(const VexaAxisObject& axis) { return axis.getTypeInfo()->getElemen
 
 String printed(const AxisUnits& unit) { return String(ValueTraits<AxisUnits>::print(unit)); }
 
-/// Keeps both ends of generated values that the picture has no room for: they cost the document nothing.
-Vector<Value> withinPicture(VexaRenderContext& context, const VexaAxisObject& axis, Vector<Value> values) {
-    if (values.size() <= 2 || context.takePolygons(1, kCornersOfValue * values.size()) == 1) return values;
-    Log::warning(kPictureIsFull, {nameOf(axis), static_cast<std::int64_t>(values.size())}, axis.getPlace());
-    return {values.front(), values.back()};
+/// How many values an axis may generate: they cost the document nothing. Both ends are always there.
+std::size_t roomForValues(const VexaRenderContext& context) {
+    return std::clamp<std::size_t>(context.polygonsLeft(kCornersOfValue), 2, Limits::kAxisValues);
 }
 
 }  // namespace
@@ -88,11 +88,11 @@ Vector<Value> VexaPlotArea::makeNumericValues(VexaRenderContext& context, bool c
     NumericSteps steps{range.min.getFloat(), range.max.getFloat(), axis.getUnit().getNumber(), axis.hasMin(),
                        axis.hasMax()};
     if (!isGiven) steps.step = Util::getFloatMinUnit(steps.max - steps.min, getMaxLabelCount(context, category));
-    AxisTicks ticks = numericTicks(steps);
-    if (ticks.isThinned) tellThinned(axis, ticks, isGiven);
+    AxisTicks ticks = numericTicks(steps, roomForValues(context));
+    takeValues(context, axis, ticks, isGiven);
     if (steps.min != range.min.getFloat() || steps.max != range.max.getFloat())
         axis.setRange({Value(static_cast<double>(steps.min)), Value(static_cast<double>(steps.max))});
-    return withinPicture(context, axis, std::move(ticks.values));
+    return std::move(ticks.values);
 }
 
 Vector<Value> VexaPlotArea::makeDateValues(VexaRenderContext& context, bool category) {
@@ -104,15 +104,25 @@ Vector<Value> VexaPlotArea::makeDateValues(VexaRenderContext& context, bool cate
     const AxisUnitsType given = axis.getUnit().getType();
     const bool isGiven = given != AxisUnitsType::Automatic;
     const int labelCount = isGiven ? 0 : getMaxLabelCount(context, category);
-    AxisTicks ticks = dateTicks(first, last, dateUnit(given, labelCount, first, last));
-    if (ticks.isThinned) tellThinned(axis, ticks, isGiven);
-    return withinPicture(context, axis, std::move(ticks.values));
+    AxisTicks ticks = dateTicks(first, last, dateUnit(given, labelCount, first, last), roomForValues(context));
+    takeValues(context, axis, ticks, isGiven);
+    return std::move(ticks.values);
 }
 
 void VexaPlotArea::checkUnit(VexaAxisObject& axis) {
     const AxisUnits& unit = axis.getUnit();
     if (unit.getType() != AxisUnitsType::Number || unit.getNumber() > 0) return;
     raise(Exception(kUnitNotAboveZero, {printed(unit), nameOf(axis)}), kSource, __LINE__, axis.getPlace());
+}
+
+void VexaPlotArea::takeValues(VexaRenderContext& context, VexaAxisObject& axis, const AxisTicks& ticks,
+                              bool isUnitGiven) {
+    if (ticks.wanted > static_cast<double>(Limits::kAxisValues)) {
+        tellThinned(axis, ticks, isUnitGiven);
+    } else if (ticks.isThinned) {
+        Log::warning(kPictureIsFull, {nameOf(axis), static_cast<std::int64_t>(ticks.wanted)}, axis.getPlace());
+    }
+    if (ticks.values.size() > 2) context.takePolygons(ticks.values.size(), kCornersOfValue);
 }
 
 void VexaPlotArea::tellThinned(VexaAxisObject& axis, const AxisTicks& ticks, bool isUnitGiven) {

@@ -34,8 +34,12 @@ float VexaRenderContext::pxDiagonal(const LengthOrPercent& length) const noexcep
     return static_cast<float>(length.getPercent() * std::sqrt(width * width + height * height) / std::sqrt(2.0));
 }
 
+std::size_t VexaRenderContext::polygonsLeft(std::size_t corners) const noexcept {
+    return cornersLeft_ / std::max<std::size_t>(corners, 1);
+}
+
 std::size_t VexaRenderContext::takePolygons(std::size_t wanted, std::size_t corners) noexcept {
-    const std::size_t granted = std::min(wanted, cornersLeft_ / std::max<std::size_t>(corners, 1));
+    const std::size_t granted = std::min(wanted, polygonsLeft(corners));
     cornersLeft_ -= granted * corners;
     return granted;
 }

@@ -28,8 +28,9 @@ public:
     /// In px; a percentage is one of the normalised diagonal, sqrt((width² + height²) / 2).
     float pxDiagonal(const LengthOrPercent& length) const noexcept;
 
-    /// How many of `wanted` polygons of `corners` corners each the picture has room for; takes their corners off what
-    /// is left of Limits::kPictureCorners.
+    /// How many polygons of `corners` corners each the picture has room for, of Limits::kPictureCorners.
+    std::size_t polygonsLeft(std::size_t corners) const noexcept;
+    /// How many of `wanted` such polygons it has room for; takes their corners off what is left.
     std::size_t takePolygons(std::size_t wanted, std::size_t corners) noexcept;
 
     void translate(const Length& x, const Length& y);

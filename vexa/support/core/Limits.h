@@ -30,7 +30,7 @@ inline constexpr std::size_t kWebCorners = 1'000'000;
 /// Corners of all rings and series of a picture. 16,000 axes with 10,000 series, half a megabyte, would write 160
 /// million of them. Generated values of axes count, too, and the texts of labels: a thousand plots with 100,000 values
 /// each would be 1e8 labels. Tests: Limits.PictureCorners, Limits.PictureAxisValues, Limits.LabelTexts
-inline constexpr std::size_t kPictureCorners = 4'000'000;
+inline constexpr std::size_t kPictureCorners = 3'000'000;
 /// Lines of a caption: a width of 0.001 px would break a long text into millions. Test: Limits.CaptionLines
 inline constexpr std::size_t kCaptionLines = 10'000;
 /// Characters of a number pattern, and of a separator or a sign in it: 100,000 labels could each repeat a pattern of a
