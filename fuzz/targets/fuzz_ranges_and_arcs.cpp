@@ -41,7 +41,7 @@ void checkTicks(FuzzedDataProvider& input) {
     if (!std::isfinite(steps.min) || !std::isfinite(steps.max) || !std::isfinite(steps.step)) return;
     const std::string what =
         " on an axis from " + std::to_string(min) + " to " + std::to_string(max) + " by " + std::to_string(steps.step);
-    const AxisTicks ticks = numericTicks(steps);
+    const AxisTicks ticks = numericTicks(steps, Limits::kAxisValues);
     Fuzz::expect(ticks.values.size() <= Limits::kAxisValues, "too many values" + what);
     Fuzz::expect(std::ranges::is_sorted(ticks.values, {}, &Value::getDouble), "values do not ascend" + what);
 }
@@ -50,7 +50,7 @@ void checkDates(FuzzedDataProvider& input) {
     const auto first = DateTimeEx::fromTotalSeconds(input.ConsumeIntegral<std::int64_t>());
     const auto last = DateTimeEx::fromTotalSeconds(input.ConsumeIntegral<std::int64_t>());
     const auto unit = static_cast<DateUnit>(input.ConsumeIntegralInRange(0, 2));
-    const AxisTicks ticks = dateTicks(first, last, unit);
+    const AxisTicks ticks = dateTicks(first, last, unit, Limits::kAxisValues);
     Fuzz::expect(ticks.values.size() <= Limits::kAxisValues, "too many dates of an axis");
     Fuzz::expect(std::ranges::is_sorted(ticks.values, {}, &Value::getDate), "the dates of an axis do not ascend");
 }
