@@ -233,6 +233,12 @@ TEST(DocumentCheck, HintsAtWhatWillDisappoint) {
          "2:1 hint 34134; ", "areas are not summed up"},
         {page("<plot-area>\n<area-chart grouping='stacked'>" + serie + "</area-chart>" + axes + "</plot-area>"), "",
          "one is no stack"},
+        {page("<pie>\n<slice value='2' fill='red'/>\n<slice value='-2' fill='red'/><slice value='-3' "
+              "fill='red'/></pie>"),
+         "3:1 hint 34135; ", "as large as one of 2, told of the first"},
+        {page("\n<title value='T' fill-opacity='50'/>"), "2:1 hint 34136; ", "not 50%"},
+        {page("\n<title value='T' fill-opacity='1' stroke-opacity='100%' opacity='-0.1'/>"), "2:1 hint 34136; ",
+         "0 and 1 are within"},
         {numbers("2,5"), "1:143 hint 34129; ", "values that count as texts"},
         {numbers("high"), "1:143 hint 34129; ", "the first one that was meant as a number"},
         {page("<title value='T' x='a' stroke-width='-1'/>\n<legend width='a'><legend-item/></legend>"),

@@ -1,7 +1,7 @@
 #include "vexa/cartesian/LostPoints.h"
 #include "vexa/cartesian/VexaPlotArea.h"
 #include "vexa/support/core/QuotedText.h"
-#include "vexa/support/values/Suggestion.h"
+#include "vexa/support/values/LocalForms.h"
 
 // What the plot area knows of its data, whatever its size: kinds, ranges and totals.
 

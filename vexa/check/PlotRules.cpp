@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "vexa/support/core/QuotedText.h"
-#include "vexa/support/values/Suggestion.h"
+#include "vexa/support/values/LocalForms.h"
 
 namespace VEXA {
 

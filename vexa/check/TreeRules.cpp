@@ -29,32 +29,59 @@ constexpr int kBareWeb = 34126;
 constexpr int kUnseen = 34127;
 constexpr int kUnseenLine = 34130;
 constexpr int kHiddenCaptions = 34131;
+constexpr int kBelowNothing = 34135;
+constexpr int kOpacityBeyond = 34136;
 
 /// Lengths that areas, titles and layouts do not tell of themselves.
 constexpr std::string_view kSizes[] = {"stroke-width", "web-stroke-width", "marker-width",
                                        "label-width",  "font-size",        "caption-size"};
 
-/// Tells each value below 0 once, where it stands, or where it takes effect first if its element only hands it on.
-class SizeRule {
+constexpr std::string_view kOpacities[] = {"opacity", "fill-opacity", "stroke-opacity", "stop-opacity",
+                                           "web-stroke-opacity"};
+
+/// Tells each size below 0 and each opacity beyond 0 to 1 once, where it stands, or where it takes effect first if its
+/// element only hands it on.
+class NumberRule {
 public:
-    explicit SizeRule(ProblemList& problems) noexcept : problems_(problems) {}
+    explicit NumberRule(ProblemList& problems) noexcept : problems_(problems) {}
 
     void check(const XmlObject& object) {
         for (const std::string_view name : kSizes) checkSize(object, name);
         if (object.isA(VexaDataPoint::typeID())) checkSize(object, "width");
+        for (const std::string_view name : kOpacities) checkOpacity(object, name);
     }
 
 private:
+    /// The attribute when the document gives it and it was not told of.
+    const XmlValueBox* fresh(const XmlObject& object, std::string_view name) const {
+        const XmlAttributeTypeInfo* const attribute = object.getTypeInfo()->findAttribute(name);
+        const XmlValueBox* const box = attribute == nullptr ? nullptr : attribute->of(object).box();
+        return box == nullptr || box == &attribute->getDefault() || told_.contains(box) ? nullptr : box;
+    }
+
     void checkSize(const XmlObject& object, std::string_view name) {
+        const XmlValueBox* const box = fresh(object, name);
+        if (box == nullptr) return;
         const XmlObjectTypeInfo& info = *object.getTypeInfo();
-        const XmlAttributeTypeInfo* const attribute = info.findAttribute(name);
-        if (attribute == nullptr) return;
-        const XmlValueBox* const box = attribute->of(object).box();
-        if (box == &attribute->getDefault()) return;
-        const std::string text = attribute->getType().print(*box);
-        if (!text.starts_with('-') || !told_.insert(box).second) return;
+        const std::string text = info.findAttribute(name)->getType().print(*box);
+        if (!text.starts_with('-')) return;
+        told_.insert(box);
         problems_.add(Severity::Warning, kBelowZero, {String(name), info.getElementName(), String(text)},
                       object.getPlace());
+    }
+
+    void checkOpacity(const XmlObject& object, std::string_view name) {
+        const XmlValueBox* const box = fresh(object, name);
+        if (box == nullptr) return;
+        const FloatOrPercent& opacity = *readAttribute<FloatOrPercent>(object, name);
+        if (opacity.getValue() >= 0 && opacity.getValue() <= 1) return;
+        told_.insert(box);
+        const XmlObjectTypeInfo& info = *object.getTypeInfo();
+        const std::int64_t counts = opacity.getValue() < 0 ? 0 : 1;
+        problems_.add(
+            Severity::Hint, kOpacityBeyond,
+            {String(name), info.getElementName(), String(info.findAttribute(name)->getType().print(*box)), counts},
+            object.getPlace());
     }
 
     ProblemList& problems_;
@@ -175,6 +202,16 @@ void checkSerie(VexaSerie& serie, ProblemList& problems) {
     }
 }
 
+/// A slice is as large as its value without a sign. The first one stands for all.
+void checkSigns(const VexaPie& pie, ProblemList& problems) {
+    for (const auto& slice : pie.getSlices()) {
+        const float value = *readAttribute<float>(*slice, "value");
+        if (value < 0)
+            return problems.add(Severity::Hint, kBelowNothing, {Value(value).getValue(), Value(-value).getValue()},
+                                slice->getPlace());
+    }
+}
+
 /// The first one of a pie stands for all.
 void checkSlices(const VexaPie& pie, ProblemList& problems) {
     for (const auto& slice : pie.getSlices()) {
@@ -188,6 +225,12 @@ void checkCaptions(const VexaPie& pie, ProblemList& problems) {
     const std::size_t hidden = pie.getOverlappedCaptions();
     if (hidden * kFew > pie.getSlices().size())
         problems.add(Severity::Hint, kHiddenCaptions, {static_cast<std::int64_t>(hidden)}, pie.getPlace());
+}
+
+void checkPie(const VexaPie& pie, ProblemList& problems) {
+    checkSigns(pie, problems);
+    checkSlices(pie, problems);
+    checkCaptions(pie, problems);
 }
 
 void checkGrid(VexaGridLine& grid, ProblemList& problems) {
@@ -214,10 +257,10 @@ SourcePlace lastChildPlace(const XmlObject& object) {
 }
 
 void checkTree(VexaRoot& root, ProblemList& problems) {
-    SizeRule sizes(problems);
+    NumberRule numbers(problems);
     ReferenceRule references(root);
     walkTree(root, [&](XmlObject& object) {
-        sizes.check(object);
+        numbers.check(object);
         references.check(static_cast<VexaObject&>(object));
         if (object.isA(VexaPlotArea::typeID())) checkPlot(static_cast<VexaPlotArea&>(object), problems);
         if (object.isA(VexaSpider::typeID())) checkSpider(static_cast<VexaSpider&>(object), problems);
@@ -230,8 +273,7 @@ void checkTree(VexaRoot& root, ProblemList& problems) {
 void checkVisibility(VexaRoot& root, ProblemList& problems) {
     walkTree(root, [&](XmlObject& object) {
         if (object.isA(VexaSerie::typeID())) checkSerie(static_cast<VexaSerie&>(object), problems);
-        if (object.isA(VexaPie::typeID())) checkSlices(static_cast<VexaPie&>(object), problems);
-        if (object.isA(VexaPie::typeID())) checkCaptions(static_cast<VexaPie&>(object), problems);
+        if (object.isA(VexaPie::typeID())) checkPie(static_cast<VexaPie&>(object), problems);
         if (object.isA(VexaGridLine::typeID())) checkGrid(static_cast<VexaGridLine&>(object), problems);
         if (object.isA(VexaSpider::typeID())) checkWeb(static_cast<VexaSpider&>(object), problems);
         if (object.isA(VexaSpiderSerie::typeID()) && !isPainted(static_cast<VexaSpiderSerie&>(object)))

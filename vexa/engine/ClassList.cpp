@@ -4,6 +4,7 @@
 #include "vexa/cartesian/VexaBar.h"
 #include "vexa/cartesian/VexaLine.h"
 #include "vexa/cartesian/VexaPlotArea.h"
+#include "vexa/engine/ChartSynonyms.h"
 #include "vexa/engine/VexaRoot.h"
 #include "vexa/pie/VexaPie.h"
 #include "vexa/spider/VexaSpider.h"
@@ -36,6 +37,7 @@ constexpr XmlObjectTypeInfo* (*kRecords[])() = {
 
 bool makeRecords() {
     for (auto* const record : kRecords) record();
+    XmlObjectFactory::instance().setSynonyms(chartSynonyms());
     return true;
 }
 

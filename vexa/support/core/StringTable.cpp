@@ -40,9 +40,9 @@ constexpr Message kMessages[] = {
     {3002, R"(the top element "{0}" is unknown; a chart document starts with <root xmlns="{1}">)"},
     {3003, R"({0}: attribute "{1}": "{2}" is not {3})"},
     {3004, R"(unknown element "{0}" in "{1}" is skipped; remove it or correct its name)"},
-    {3005, R"(unknown element "{0}" in "{1}" is skipped; did you mean "{2}"?)"},
+    {3005, R"(unknown element "{0}" in "{1}" is skipped; did you mean {2}?)"},
     {3006, R"(unknown attribute "{0}" of "{1}" is ignored; remove it or correct its name)"},
-    {3007, R"(unknown attribute "{0}" of "{1}" is ignored; did you mean "{2}"?)"},
+    {3007, R"(unknown attribute "{0}" of "{1}" is ignored; did you mean {2}?)"},
     {3008, R"(a second "{0}" in "{1}" is ignored, the first one is kept; remove one of them)"},
     {3009, R"(text in "{0}" is ignored; write texts into attributes)"},
     {3010, "elements are nested deeper than {0}; take some levels out"},
@@ -57,6 +57,8 @@ constexpr Message kMessages[] = {
     {3019, R"(a second "{0}" of "{1}" is ignored, the first one is kept; write it once, without a prefix)"},
     {3020, R"(element "{0}" may not stand in "{1}" and is skipped; no element takes it, remove it)"},
     {3021, R"(attribute "{0}" does not belong to "{1}" and is ignored; write it on {2})"},
+    {3022, R"(element "{0}" may not stand in "{1}" and is skipped; did you mean {2}?)"},
+    {3023, R"(text in "{0}" is ignored; write it into {2})"},
 
     // Charts.
     {34000, R"(a spider data point has no axis; give it an "axis-id" that is the "id" of one of the axes)"},
@@ -198,6 +200,8 @@ constexpr Message kMessages[] = {
     {34134,
      R"(the series of this "{0}" are painted over each other, grouping="stacked" puts bars alone on each other; give )"
      R"(each series the sums, or take a bar-chart)"},
+    {34135, R"(the slice of {0} is drawn like one of {1}; leave it out, or take bars, which can go below zero)"},
+    {34136, R"(the "{0}" {2} of the "{1}" counts as {3}; write a number from 0 to 1, or a percentage)"},
 
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},

@@ -20,11 +20,15 @@ constexpr const char* kNotUtf8 =
     "bytes that are no UTF-8 (save the document as UTF-8, or begin it with a line such as <?xml version=\"1.0\" "
     "encoding=\"ISO-8859-1\"?>)";
 
+constexpr const char* kNoElement =
+    "something other than an element stands before the top one (take it out; a chart document starts with <root …>)";
+constexpr const char* kTwoHyphens = "two hyphens inside a comment (write one, or a dash)";
+
 /// What expat's commoner errors mean for the writer of the document.
 const char* describe(XML_Error error) noexcept {
     switch (error) {
         case XML_ERROR_SYNTAX:
-            return "something other than a tag stands before the top element (take it out; a document starts with <)";
+            return kNoElement;
         case XML_ERROR_NO_ELEMENTS:
             return "the document ends before its elements are closed (close each with </name> or />)";
         case XML_ERROR_UNCLOSED_TOKEN:
@@ -59,6 +63,12 @@ const char* describe(XML_Error error) noexcept {
         default:
             return XML_ErrorString(error);
     }
+}
+
+/// Whether two hyphens at the end of a text stand in a comment that they do not begin.
+bool endsInComment(std::string_view text) noexcept {
+    const std::size_t comment = text.rfind("<!--");
+    return comment != std::string_view::npos && text.substr(comment + 2).find("--", 2) == text.size() - comment - 4;
 }
 
 /// ASCII is UTF-8 too. Names of encodings have no case.
@@ -153,19 +163,22 @@ private:
         if (error == XML_ERROR_UNKNOWN_ENCODING) {
             raise(Exception(3015, {quoteForMessage(String(encoding_))}), "ExpatTokenizer", __LINE__, getPlace());
         }
-        const char* const what = error == XML_ERROR_INVALID_TOKEN && isOtherEncoding() ? kNotUtf8 : describe(error);
+        const char* const what = error == XML_ERROR_INVALID_TOKEN ? describeToken() : describe(error);
         raise(handler_.malformed(String(what)), "ExpatTokenizer", __LINE__, getPlace());
     }
 
-    /// Whether the tag or text that expat has stopped at is no UTF-8 although the document should be.
-    bool isOtherEncoding() const {
+    /// What is wrong with the tag or text that expat has stopped at.
+    const char* describeToken() const {
         int at = 0;
         int size = 0;
         const char* const input = XML_GetInputContext(parser_.get(), &at, &size);
-        if (!isUtf8_ || input == nullptr) return false;
-        const std::string_view rest(input + at, static_cast<std::size_t>(size - at));
+        if (!isUtf8_ || input == nullptr) return describe(XML_ERROR_INVALID_TOKEN);
+        const std::string_view context(input, static_cast<std::size_t>(size));
+        const std::string_view rest = context.substr(static_cast<std::size_t>(at));
         const std::string_view token = rest.substr(0, rest.find('>'));
-        return String(token).toUtf8() != token;
+        if (String(token).toUtf8() != token) return kNotUtf8;
+        if (endsInComment(context.substr(0, context.size() - rest.size()))) return kTwoHyphens;
+        return sawElement_ || rest.starts_with('<') ? describe(XML_ERROR_INVALID_TOKEN) : kNoElement;
     }
 
     XML_Status feed() { return whole_ ? feedWhole() : feedBlock(); }

@@ -39,14 +39,26 @@ bool isRepeated(std::span<const XmlAttributeToken> tokens, const XmlNamespace& s
     });
 }
 
-/// `<a>, <b> or <c>`
-String listOf(std::span<const std::string_view> elements) {
-    std::string names;
-    for (std::size_t i = 0; i < elements.size(); ++i) {
-        if (i > 0) names += i + 1 == elements.size() ? " or " : ", ";
-        names.append("<").append(elements[i]).append(">");
+/// `<a>, <b> or <c>`, in the brackets that are given.
+String listOf(std::span<const std::string_view> names, char open, char close) {
+    std::string list;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (i > 0) list += i + 1 == names.size() ? " or " : ", ";
+        list.append(1, open).append(names[i]).append(1, close);
     }
-    return String(names);
+    return String(list);
+}
+
+/// The known names that other vocabularies have this word for, in double quotes; empty when there are none.
+String synonymFor(std::string_view word, std::span<const std::string_view> known) {
+    return listOf(synonymsOf(word, XmlObjectFactory::instance().synonyms(), known), '"', '"');
+}
+
+/// The same, or else the nearest name.
+String guessFor(std::string_view word, std::span<const std::string_view> known) {
+    String names = synonymFor(word, known);
+    const std::string_view near = names.isEmpty() ? nearestName(word, known) : std::string_view();
+    return near.empty() ? names : listOf({&near, 1}, '"', '"');
 }
 
 /// The elements that take this child, for messages; empty when none does.
@@ -57,7 +69,7 @@ String parentsOf(const XmlKey& child) {
         if (member != nullptr && member->getNamespace().uri == child.namespaceUri)
             parents.push_back(parent->getKey().name);
     }
-    return listOf(parents);
+    return listOf(parents, '<', '>');
 }
 
 /// The elements that have this attribute, in the same form; empty when these are none, or too many to be of help.
@@ -67,7 +79,7 @@ String ownersOf(std::string_view attribute) {
     for (const XmlObjectTypeInfo* const owner : XmlObjectFactory::instance().typeInfos()) {
         if (!owner->isAbstract() && owner->findAttribute(attribute) != nullptr) owners.push_back(owner->getKey().name);
     }
-    return owners.size() > kFew ? String() : listOf(owners);
+    return owners.size() > kFew ? String() : listOf(owners, '<', '>');
 }
 
 }  // namespace
@@ -131,7 +143,7 @@ public:
             frame.object->addText(String(piece));
         } else if (!frame.warnedOfText && !isBlank(piece)) {
             frame.warnedOfText = true;
-            warn(3009, {frame.info->getElementName(), quoted(piece)}, getPlace());
+            tellText(*frame.info, piece);
         }
     }
 
@@ -280,30 +292,34 @@ private:
             tellMisplacedElement(refuse, name);
             return;
         }
-        const std::string_view near = nearestName(name.local, namesOf(info.elements()));
-        VariantArray arguments{quoted(name.local), info.getElementName()};
-        if (!near.empty()) arguments.emplace_back(String(near));
-        problem(refuse, near.empty() ? 3004 : 3005, std::move(arguments));
+        const String meant = guessFor(name.local, namesOf(info.elements()));
+        problem(refuse, meant.isEmpty() ? 3004 : 3005, {quoted(name.local), info.getElementName(), meant});
     }
 
     void tellMisplacedElement(bool refuse, const XmlNameToken& name) {
+        const XmlObjectTypeInfo& info = *frames_.back().info;
+        const String meant = synonymFor(name.local, namesOf(info.elements()));
         const String parents = parentsOf({name.uri, name.local});
-        VariantArray arguments{String(name.local), frames_.back().info->getElementName()};
-        if (!parents.isEmpty()) arguments.emplace_back(parents);
-        problem(refuse, parents.isEmpty() ? 3020 : 3018, std::move(arguments));
+        VariantArray arguments{String(name.local), info.getElementName(), meant.isEmpty() ? parents : meant};
+        const int elsewhere = parents.isEmpty() ? 3020 : 3018;
+        problem(refuse, meant.isEmpty() ? elsewhere : 3022, std::move(arguments));
     }
 
     void tellUnknownAttribute(const XmlObjectTypeInfo& info, std::string_view name) {
         if (!takesWarnings()) return leaveOutWarning(getPlace());
-        const String owners = ownersOf(name);
-        if (!owners.isEmpty()) return warn(3021, {String(name), info.getElementName(), owners}, getPlace());
         Vector<std::string_view> known = namesOf(info.attributes());
+        String meant = synonymFor(name, known);
+        const String owners = meant.isEmpty() ? ownersOf(name) : String();
+        if (!owners.isEmpty()) return warn(3021, {String(name), info.getElementName(), owners}, getPlace());
         for (const auto& inheritable : XmlObjectFactory::instance().inheritableNames())
             known.push_back(inheritable.name);
-        const std::string_view near = nearestName(name, known);
-        VariantArray arguments{quoted(name), info.getElementName()};
-        if (!near.empty()) arguments.emplace_back(String(near));
-        warn(near.empty() ? 3006 : 3007, arguments, getPlace());
+        if (meant.isEmpty()) meant = guessFor(name, known);
+        warn(meant.isEmpty() ? 3006 : 3007, {quoted(name), info.getElementName(), meant}, getPlace());
+    }
+
+    void tellText(const XmlObjectTypeInfo& info, std::string_view piece) {
+        const String attribute = synonymFor("text", namesOf(info.attributes()));
+        warn(attribute.isEmpty() ? 3009 : 3023, {info.getElementName(), quoted(piece), attribute}, getPlace());
     }
 
     /// The namespace of the registered classes.

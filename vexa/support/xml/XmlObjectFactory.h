@@ -1,9 +1,10 @@
 #pragma once
 
-#include <mutex>
+#include <span>
 #include <string_view>
 
 #include "vexa/support/core/Vector.h"
+#include "vexa/support/xml/Synonyms.h"
 #include "vexa/support/xml/XmlKey.h"
 #include "vexa/support/xml/XmlNameTable.h"
 
@@ -46,6 +47,10 @@ public:
     int findInheritable(std::string_view name) const noexcept { return inheritableIndex_.find(name); }
     const Vector<InheritableName>& inheritableNames() const noexcept { return inheritable_; }
 
+    /// Serve messages about unknown names.
+    void setSynonyms(std::span<const SynonymGroup> groups) noexcept { synonyms_ = groups; }
+    std::span<const SynonymGroup> synonyms() const noexcept { return synonyms_; }
+
 private:
     XmlObjectFactory() = default;
 
@@ -54,6 +59,7 @@ private:
     XmlNameTable elementIndex_;  // by local name; a name belongs to one class
     Vector<InheritableName> inheritable_;
     XmlNameTable inheritableIndex_;
+    std::span<const SynonymGroup> synonyms_;
 };
 
 }  // namespace VEXA
