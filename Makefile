@@ -56,9 +56,8 @@ soak: $(BUILD)/build.ninja
 tsan: packages
 	cmake --preset threads
 	cmake --build --preset threads --target test_load test_core
-	cd build/threads && VEXA_LOAD_DOCUMENTS=1000 TSAN_OPTIONS="ignore_noninstrumented_modules=1 halt_on_error=1" \
-	    setarch -R tests/test_load
-	cd build/threads && setarch -R tests/test_core
+	VEXA_LOAD_DOCUMENTS=1000 TSAN_OPTIONS="ignore_noninstrumented_modules=1 halt_on_error=1" \
+	    setarch -R ctest --test-dir build/threads --output-on-failure --no-tests=error -R '^(load|core)\.'
 
 fuzz:
 	scripts/install-packages build test fuzz
