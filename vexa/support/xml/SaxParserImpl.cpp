@@ -74,7 +74,7 @@ String parentsOf(const XmlKey& child) {
 
 /// The elements that have this attribute, in the same form; empty when these are none, or too many to be of help.
 String ownersOf(std::string_view attribute) {
-    constexpr std::size_t kFew = 4;
+    constexpr std::size_t kFew = 8;
     Vector<std::string_view> owners;
     for (const XmlObjectTypeInfo* const owner : XmlObjectFactory::instance().typeInfos()) {
         if (!owner->isAbstract() && owner->findAttribute(attribute) != nullptr) owners.push_back(owner->getKey().name);
