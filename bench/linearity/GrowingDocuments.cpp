@@ -130,6 +130,10 @@ std::string titleWords(int size) { return root("<title height=\"100%\" value=\""
 std::string longWord(int size) {
     return root("<title height=\"100%\" value=\"" + std::string(static_cast<std::size_t>(size), 'w') + "\"/>");
 }
+std::string mixedWord(int size) {
+    return root("<title height=\"100%\" width=\"" + number(4 * size) + "\" value=\"" +
+                repeat(size, [](int) { return std::string("aक\u4E2D"); }) + "\"/>");
+}
 std::string longWordOfASlice(int size) {
     return root("<pie><slice value=\"1\" caption=\"" + std::string(static_cast<std::size_t>(size), 'w') + "\"/></pie>");
 }
@@ -175,6 +179,7 @@ std::span<const Dimension> dimensions() {
         {"words of a point", 4000, &pointCaption},
         {"words of a title", 4000, &titleWords},
         {"one long word", 20'000, &longWord},
+        {"word of three scripts", 2000, &mixedWord},
         {"long word of a slice", 10'000, &longWordOfASlice},
         {"attributes", 2000, &attributes},
         {"nesting", 100, &nesting},

@@ -103,6 +103,10 @@ const Attack kAttacks[] = {
      }},
     {"ATitleOfAMegabyte", [] { return page("<title width='1' value='" + repeated("word ", 200'000) + "'/>"); }},
     {"AWordOfAMegabyte", [] { return page("<title width='1' value='" + std::string(1'000'000, 'w') + "'/>"); }},
+    {"AMixedTextOfAMegabyte",
+     [] { return page("<title width='600000' value='" + repeated("a中اकא👨", 60'000) + "'/>"); }},
+    {"JoinedEmojiOfAMegabyte",
+     [] { return page("<title width='1000000' value='" + repeated("👨\u200D", 140'000) + "'/>"); }},
     {"ALegendOfManyItems",
      [] {
          return page("<legend>" + repeated("<legend-item caption='A long caption of an item'/>", 20'000) + "</legend>");

@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::size_t kEntryCost = 40;         // in characters: what an entry takes beside its text
 constexpr std::size_t kCapacity = 512 * 1024;  // 2 MB, and as much once more for what was used before
-constexpr std::size_t kLongest = 4096;         // a longer text is hardly measured twice
+constexpr std::size_t kLongest = 4096;         // characters; a render remembers longer texts itself
 
 }  // namespace
 

@@ -1,5 +1,9 @@
 #include "vexa/legend/VexaTextWrapper.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "vexa/support/core/Limits.h"
 #include "vexa/support/core/Log.h"
 #include "vexa/support/values/ParseUtil.h"
@@ -8,9 +12,11 @@ namespace VEXA {
 
 namespace {
 
-// A word is at least this part of its characters' single widths: ligatures and joined emoji make it narrower, but not
-// more than that. What is left of a long word is measured only when it may fit, so that splitting stays linear.
+// A text is at least this part of its characters' single widths: ligatures and joined emoji make it narrower, but not
+// more than that.
 constexpr double kNarrowestSetting = 1.0 / 8.0;
+// Characters from which on a text is looked at by single widths before it is shaped, which takes much longer.
+constexpr std::size_t kLongText = 500;
 
 }  // namespace
 
@@ -23,12 +29,13 @@ const Vector<String>& VexaTextWrapper::wrap() {
     lineSizes_.clear();
     isCut_ = !(maxWidth_ > 0) && !text_.trim().isEmpty();
     if (!(maxWidth_ > 0)) return lines_;
-    const SizeF size = context_.measureText(text_);
-    if (size.width <= maxWidth_) {
+    const bool isWide = isSurelyWide({0, text_.length()});
+    const SizeF size = isWide ? SizeF() : context_.measureText(text_);
+    if (isWide || !(size.width <= maxWidth_)) {
+        wrapWords();
+    } else {
         lines_.push_back(text_);
         lineSizes_.push_back(size);
-    } else {
-        wrapWords();
     }
     return lines_;
 }
@@ -48,7 +55,7 @@ bool VexaTextWrapper::buildLine() {
     remaining_ = maxWidth_;
     while (position_ < text_.length()) {
         readWord();
-        if (word_.isEmpty()) continue;
+        if (word_.length() == 0) continue;
         if (!(widthOf(text_[word_.begin]) <= maxWidth_)) return false;
         if (!addWord()) break;
     }
@@ -58,7 +65,7 @@ bool VexaTextWrapper::buildLine() {
 // False when the line is full.
 bool VexaTextWrapper::addWord() {
     if (word_.width <= remaining_) {
-        append(word_.begin, word_.end);
+        append(word_);
         remaining_ -= word_.width;
         return addSpace();
     }
@@ -67,7 +74,7 @@ bool VexaTextWrapper::addWord() {
     } else if (mode_ == WrapMode::SplitWords) {
         splitWord();
     } else {
-        append(word_.begin, word_.end);
+        append(word_);
     }
     return false;
 }
@@ -76,7 +83,7 @@ bool VexaTextWrapper::addSpace() {
     if (position_ == text_.length()) return true;
     const float width = widthOf(text_[position_]);
     if (!(width <= remaining_)) return false;
-    append(position_, position_ + 1);
+    append({position_, position_ + 1});
     remaining_ -= width;
     return true;
 }
@@ -93,24 +100,33 @@ void VexaTextWrapper::splitWord() {
         remaining_ -= width;
         word_.charactersWidth -= width;
     }
-    append(begin, word_.begin);
-    word_.width = remainderWidth();
+    append({begin, word_.begin});
+    word_.isSplit = true;
     position_ = word_.begin;
 }
 
-// Goes on with what is left of a split or postponed word, which is measured already.
+// Goes on with a postponed word, or with what is left of a split one.
 void VexaTextWrapper::readWord() {
-    if (word_.isEmpty() || position_ != word_.begin) {
+    const float aLineAndMore = std::nextafter(maxWidth_, std::numeric_limits<float>::infinity());
+    if (word_.length() == 0 || position_ != word_.begin) {
         const auto length = ParseUtil::extractWord(text_, position_).length();
-        word_ = {position_ - length, position_};
-        if (length > 0) word_.width = context_.measureText(text_.subString(word_.begin, length)).width;
+        word_ = {{position_ - length, position_}};
+        if (length > 0) word_.width = isSurelyWide(word_) ? aLineAndMore : measure(word_).width;
+    } else if (word_.isSplit) {
+        measureRest();
     }
     position_ = word_.end;
 }
 
-float VexaTextWrapper::remainderWidth() {
-    if (word_.charactersWidth * kNarrowestSetting > maxWidth_) return static_cast<float>(word_.charactersWidth);
-    return context_.measureText(text_.subString(word_.begin, word_.end - word_.begin)).width;
+// What a cut takes from the width of the whole word is the line before it. It may take a little more, where letters no
+// longer lie beside each other; so the rest is measured again when it may fit, and splitting stays linear.
+void VexaTextWrapper::measureRest() {
+    const SizeF cut = lineSizes_.back();
+    word_.isSplit = false;
+    word_.width -= cut.width + cut.height;
+    const double characters = word_.charactersWidth * kNarrowestSetting;
+    if (!(word_.width > maxWidth_ || characters > maxWidth_)) word_.width = measure(word_).width;
+    if (characters > maxWidth_) word_.width = std::max(word_.width, static_cast<float>(characters));
 }
 
 // False when there are more lines than anybody reads.
@@ -124,6 +140,19 @@ bool VexaTextWrapper::finishLine() {
     return true;
 }
 
+// Whether a long text is wider than a line, as far as single widths tell.
+bool VexaTextWrapper::isSurelyWide(Range range) {
+    double width = 0;
+    if (range.length() < kLongText) return false;
+    for (; range.begin < range.end && !(width * kNarrowestSetting > maxWidth_); ++range.begin)
+        width += widthOf(text_[range.begin]);
+    return width * kNarrowestSetting > maxWidth_;
+}
+
+SizeF VexaTextWrapper::measure(Range range) const {
+    return context_.measureText(text_.subString(range.begin, range.length()));
+}
+
 float VexaTextWrapper::widthOf(char32_t character) {
     CharacterWidth& entry = characterWidths_[character % characterWidths_.size()];
     if (!entry.known || entry.character != character) {
@@ -132,8 +161,6 @@ float VexaTextWrapper::widthOf(char32_t character) {
     return entry.width;
 }
 
-void VexaTextWrapper::append(std::size_t begin, std::size_t end) {
-    line_.append(text_.view().substr(begin, end - begin));
-}
+void VexaTextWrapper::append(Range range) { line_.append(text_.view().substr(range.begin, range.length())); }
 
 }  // namespace VEXA

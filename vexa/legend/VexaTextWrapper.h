@@ -35,12 +35,16 @@ public:
     bool isCut() const noexcept { return isCut_; }
 
 private:
-    struct Word {
+    struct Range {
         std::size_t begin = 0;
         std::size_t end = 0;
-        float width = 0;
+        std::size_t length() const noexcept { return end - begin; }
+        bool operator==(const Range&) const = default;
+    };
+    struct Word : Range {
+        float width = 0;              // where this is more than a line, it may be wider still
         double charactersWidth = -1;  // the sum of its characters' widths; below 0 while not needed
-        bool isEmpty() const noexcept { return begin == end; }
+        bool isSplit = false;         // it is what the line before has left of a word
     };
     struct CharacterWidth {
         char32_t character = 0;
@@ -54,10 +58,12 @@ private:
     bool addSpace();
     void splitWord();
     void readWord();
-    float remainderWidth();
+    void measureRest();
     bool finishLine();
+    bool isSurelyWide(Range range);
+    SizeF measure(Range range) const;
     float widthOf(char32_t character);
-    void append(std::size_t begin, std::size_t end);
+    void append(Range range);
 
     String text_;
     WrapMode mode_;

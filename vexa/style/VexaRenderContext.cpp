@@ -90,7 +90,7 @@ SizeF VexaRenderContext::measureText(const String& text, const SmartPtr<Font>& f
     const SmartPtr<FontProgram> program = FontManager::getFont(font);
     const FontMetrics metrics = program->getMetrics();
     const auto unitsPerEm = static_cast<float>(metrics.unitsPerEm);
-    return {static_cast<float>(program->measureString(text)) * size / unitsPerEm,
+    return {static_cast<float>(longTexts_.measure(text, program)) * size / unitsPerEm,
             size * static_cast<float>(metrics.ascent + metrics.descent) / unitsPerEm};
 }
 

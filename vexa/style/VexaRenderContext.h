@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vexa/style/LongTextWidths.h"
 #include "vexa/support/core/Exception.h"
 #include "vexa/support/core/Limits.h"
 #include "vexa/support/drawing/RenderContext.h"
@@ -73,6 +74,7 @@ private:
     float height_;
     PointF origin_;  // of the content, from the corner of the page
     std::size_t cornersLeft_ = Limits::kPictureCorners;
+    mutable LongTextWidths longTexts_;
 };
 
 }  // namespace VEXA

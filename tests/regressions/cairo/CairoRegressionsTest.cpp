@@ -6,6 +6,8 @@
 namespace VEXA::Testing {
 namespace {
 
+constexpr int kLibraryFailed = 35003;
+
 /// A picture of a few pixels; what is drawn is the same.
 SmartPtr<RenderContext> smallPng(SmartPtr<IO::Stream> stream, SizeF page) {
     PngOptions options;
@@ -21,6 +23,8 @@ TEST(Regressions, EveryDocumentIsPaintedOrRefusedAsPngAndPdf) {
             document.text, [](SmartPtr<IO::Stream> stream, SizeF) { return CairoSurface::pdf(std::move(stream)); });
         EXPECT_TRUE(pdf.refusal != 0 || pdf.bytes.starts_with("%PDF")) << document.name;
         EXPECT_EQ(png.fault + pdf.fault, "") << document.name;
+        for (const Fuzz::Painting* picture : {&png, &pdf})
+            EXPECT_NE(picture->refusal, kLibraryFailed) << document.name << " is refused by cairo itself";
     }
 }
 

@@ -2,12 +2,16 @@
 
 #include <algorithm>
 
+#include "vexa/surfaces/cairo/CairoText.h"
+
 namespace VEXA {
 
 namespace {
 
+bool isControl(char32_t c) noexcept { return c < U' ' || (c >= 0x7F && c < 0xA0); }
+
 void appendCharacters(std::u32string_view characters, std::string& out) {
-    for (const char32_t c : characters) appendUtf8(c < U' ' || (c >= 0x7F && c < 0xA0) ? U' ' : c, out);
+    for (const char32_t c : characters) appendUtf8(isControl(c) ? U' ' : cairoCharacter(c), out);
 }
 
 }  // namespace

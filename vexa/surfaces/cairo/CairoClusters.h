@@ -18,7 +18,7 @@ struct CairoClusters {
 };
 
 /// `characters` is the text that the run was shaped from. Every character of the run belongs to a cluster; control
-/// characters are drawn as spaces, and are spaces here.
+/// characters are drawn as spaces, and are spaces here; noncharacters are U+FFFD.
 CairoClusters clustersOf(const GlyphRun& run, std::u32string_view characters);
 
 }  // namespace VEXA

@@ -4,6 +4,7 @@
 
 #include "vexa/support/core/Exception.h"
 #include "vexa/support/core/Limits.h"
+#include "vexa/surfaces/cairo/CairoText.h"
 #include "vexa/surfaces/cairo/PdfCatalog.h"
 
 namespace VEXA {
@@ -90,7 +91,9 @@ void PdfPages::addInfo(const DocumentInfo& info) {
 }
 
 void PdfPages::tell(cairo_pdf_metadata_t what, const String& text) {
-    if (!text.isEmpty()) cairo().pdf_surface_set_metadata(surface_.get(), what, text.toUtf8().c_str());
+    std::string utf8;
+    for (const char32_t c : text.view()) appendUtf8(cairoCharacter(c), utf8);
+    if (!utf8.empty()) cairo().pdf_surface_set_metadata(surface_.get(), what, utf8.c_str());
 }
 
 void PdfPages::write(IO::Stream& stream) {
