@@ -1,12 +1,14 @@
 #include "cli/OutputGuard.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <map>
 #include <optional>
 #include <unordered_map>
 #include <utility>
 
+#include "cli/Messages.h"
 #include "cli/RenderPlan.h"
 
 namespace VEXA::Cli {
@@ -15,11 +17,15 @@ namespace {
 /// Device and number of a file: equal exactly when two names mean the same file.
 using FileIdentity = std::pair<dev_t, ino_t>;
 
-std::optional<FileIdentity> identityOfFile(const std::string& name) {
+/// Of a file with that name, or the one behind the stream that "-" means.
+std::optional<FileIdentity> identityOf(const std::string& name, int stream) {
     struct stat status = {};
-    if (name == kStandardStream || ::stat(name.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    const int failure = name == kStandardStream ? ::fstat(stream, &status) : ::stat(name.c_str(), &status);
+    if (failure != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
     return FileIdentity(status.st_dev, status.st_ino);
 }
+
+}  // namespace
 
 std::string sameOutputProblem(const std::vector<RenderJob>& jobs) {
     std::unordered_map<std::string, const RenderJob*> writers;
@@ -35,22 +41,16 @@ std::string sameOutputProblem(const std::vector<RenderJob>& jobs) {
 std::string overwriteProblem(const std::vector<RenderJob>& jobs) {
     std::map<FileIdentity, const RenderJob*> readers;
     for (const RenderJob& job : jobs) {
-        if (const auto identity = identityOfFile(job.input)) readers.emplace(*identity, &job);
+        if (const auto identity = identityOf(job.input, STDIN_FILENO)) readers.emplace(*identity, &job);
     }
     for (const RenderJob& job : jobs) {
-        const auto identity = identityOfFile(job.output);
+        const auto identity = identityOf(job.output, STDOUT_FILENO);
         const auto reader = identity ? readers.find(*identity) : readers.end();
         if (reader == readers.end()) continue;
-        return "the picture \"" + job.output + "\" would replace the document \"" + reader->second->input + "\"";
+        return "the picture \"" + outputName(job.output) + "\" would replace the document \"" +
+               inputName(reader->second->input) + "\"; draw it to another file";
     }
     return {};
-}
-
-}  // namespace
-
-std::string outputProblem(const std::vector<RenderJob>& jobs, bool isJoined) {
-    std::string problem = isJoined ? std::string() : sameOutputProblem(jobs);
-    return problem.empty() ? overwriteProblem(jobs) : problem;
 }
 
 }  // namespace VEXA::Cli

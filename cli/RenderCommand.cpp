@@ -69,15 +69,15 @@ void loadLibraries(const RenderJob& job) {
     static_cast<void>(makeSurface(job.format, make<IO::MemoryStream>(), job.picture));
 }
 
-ExitStatus refuse(const std::string& problem, Console& console) {
+ExitStatus refuse(const std::string& problem, Console& console, ExitStatus status = kWrongUsage) {
     console.write(usageMessage("render", problem));
-    return kWrongUsage;
+    return status;
 }
 
 /// Draws all documents once.
 ExitStatus renderOnce(const RenderOptions& options, const Painter& paint, Console& console) {
     const RenderPlan plan = planRender(options);
-    if (!plan.problem.empty()) return refuse(plan.problem, console);
+    if (!plan.problem.empty()) return refuse(plan.problem, console, plan.status);
     std::shared_ptr<FontService> fonts;
     if (!options.fontDirectories.empty()) {
         fonts = callersFonts(options.fontDirectories);

@@ -88,7 +88,10 @@ RenderPlan planRender(const RenderOptions& options) {
     const PictureOptions picture = readPictureOptions(options, format, plan.problem);
     if (!plan.problem.empty()) return plan;
     addJobs(options, format, picture, plan);
-    plan.problem = outputProblem(plan.jobs, plan.isJoined);
+    if (!plan.isJoined) plan.problem = sameOutputProblem(plan.jobs);
+    if (!plan.problem.empty()) return plan;
+    plan.problem = overwriteProblem(plan.jobs);
+    plan.status = kFailed;
     return plan;
 }
 

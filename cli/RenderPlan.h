@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/ExitStatus.h"
 #include "cli/OutputFormat.h"
 #include "cli/RenderOptions.h"
 
@@ -20,8 +21,9 @@ struct RenderJob {
 /// What a command line asks for: the jobs in the order of the inputs, or what is wrong with it.
 struct RenderPlan {
     std::vector<RenderJob> jobs;
-    bool isJoined = false;  ///< the documents become pages of one file, the output of them all
-    std::string problem;    ///< one sentence for the user; empty when the plan can be carried out
+    bool isJoined = false;            ///< the documents become pages of one file, the output of them all
+    std::string problem;              ///< one sentence for the user; empty when the plan can be carried out
+    ExitStatus status = kWrongUsage;  ///< what a problem makes the program end with
 };
 
 /// Decides the output file and the format of every input. Refuses a plan in which two documents would write one file
