@@ -45,7 +45,7 @@ linearity: $(BUILD)/build.ninja
 bounds: $(BUILD)/build.ninja
 	cmake --build --preset release --target vexa_bounds
 	$(BUILD)/bench/vexa_bounds
-	$(BUILD)/bench/vexa_bounds examples/*.xml tests/regressions/documents/* fuzz/corpus/fuzz_document_[dps]*/*
+	$(BUILD)/bench/vexa_bounds examples/*.xml tests/regressions/documents/* fuzz/corpus/fuzz_document_*/*
 
 soak: $(BUILD)/build.ninja
 	cmake --build --preset release --target vexa_soak

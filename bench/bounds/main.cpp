@@ -9,7 +9,10 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
+#include "fuzz/support/DocumentTree.h"
 #include "tests/regressions/budget/Cost.h"
 #include "tests/sweeps/Attacks.h"
 #include "vexa/surfaces/cairo/CairoSurface.h"
@@ -61,10 +64,13 @@ Shares measure(const std::string& name, const std::string& document) {
     return shares;
 }
 
-std::string contentOf(const char* file) {
+/// The document in a file, which for the fuzz target of trees holds the steps that make it.
+std::string documentIn(const std::string& file) {
     std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw std::runtime_error(std::string(file) + " cannot be read");
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    if (!stream) throw std::runtime_error(file + " cannot be read");
+    std::string content{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    if (file.find("/fuzz_document_tree/") == std::string::npos) return content;
+    return Fuzz::documentOf(std::vector<std::uint8_t>(content.begin(), content.end()));
 }
 
 int run(int argc, char** argv) {
@@ -74,7 +80,7 @@ int run(int argc, char** argv) {
         most.time.add(shares.time);
     };
     std::printf("%-72s %10s %13s %13s\n", "document", "bytes", "memory used", "time used");
-    for (int i = 1; i < argc; ++i) add(measure(argv[i], contentOf(argv[i])));
+    for (int i = 1; i < argc; ++i) add(measure(argv[i], documentIn(argv[i])));
     if (argc == 1) {
         for (const Testing::Attack& attack : Testing::attacks()) add(measure(attack.name, attack.document()));
     }

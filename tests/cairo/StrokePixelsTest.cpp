@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "tests/cairo/CairoTesting.h"
+#include "vexa/surfaces/cairo/DashBudget.h"
 
 // Caps, joins and dashes are compared with another renderer in tests/pictures; here is what only pixels tell.
 
@@ -151,6 +152,19 @@ TEST(StrokePixels, WhatWouldTakeForeverIsDrawnAllTheSame) {
          {{20, 10, kInk}}},
     };
     for (const PixelCase& c : cases) expectPixels(c);
+}
+
+TEST(Limits, Dashes) {
+    DashBudget page;
+    page.renew();
+    EXPECT_EQ(page.stretchOf(100'000), 1) << "as many as an outline may have";
+    EXPECT_EQ(page.stretchOf(250'000), 2.5) << "longer ones take the place of more";
+    for (int i = 0; i < 7; ++i) EXPECT_EQ(page.stretchOf(100'000), 1) << i;
+    EXPECT_EQ(page.stretchOf(60'000), 1);
+    EXPECT_EQ(page.stretchOf(100'000), 2.5) << "40,000 are left of a million";
+    EXPECT_EQ(page.stretchOf(1), 0) << "none is left";
+    page.renew();
+    EXPECT_EQ(page.stretchOf(1), 1) << "on the next page";
 }
 
 }  // namespace

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
+#include <regex>
 #include <string>
 
 namespace {
@@ -47,6 +50,34 @@ Numbers limitsOfThePage() {
 TEST(SecurityPage, GivesEveryLimitOfTheHeader) {
     EXPECT_GT(limitsOfTheHeader().size(), 20U);
     EXPECT_EQ(limitsOfThePage(), limitsOfTheHeader());
+}
+
+/// The texts of all tests.
+std::string sourcesOfTests() {
+    std::string all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(VEXA_SOURCE_DIR "/tests")) {
+        if (entry.path().extension() != ".cpp") continue;
+        std::ifstream file(entry.path());
+        all.append(std::istreambuf_iterator<char>(file), {});
+    }
+    return all;
+}
+
+TEST(SecurityPage, NamesTestsThatThereAre) {
+    std::ifstream file(VEXA_SOURCE_DIR "/vexa/support/core/Limits.h");
+    const std::string header{std::istreambuf_iterator<char>(file), {}};
+    const std::string tests = sourcesOfTests();
+    const std::regex listed("Tests?: ([^\n]+)");
+    const std::regex named("(\\w+)\\.(\\w+)");
+    int count = 0;
+    for (std::sregex_iterator list(header.begin(), header.end(), listed), end; list != end; ++list) {
+        const std::string names = (*list)[1];
+        for (std::sregex_iterator name(names.begin(), names.end(), named); name != end; ++name, ++count) {
+            const std::string test = "(" + (*name)[1].str() + ", " + (*name)[2].str() + ")";
+            EXPECT_NE(tests.find(test), tests.npos) << test;
+        }
+    }
+    EXPECT_GT(count, 20);
 }
 
 }  // namespace

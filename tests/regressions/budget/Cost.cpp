@@ -23,6 +23,7 @@ constexpr double kBytesOfOperation = 1200;  // of a PDF's page, as are the next 
 constexpr double kBytesOfCorner = 100;
 constexpr double kBytesOfStop = 200;
 constexpr double kSecondsOfMegabyte = 2;
+constexpr double kSecondsOfDrawnMegabyte = 1;  // texts of a PNG or a PDF are shaped again
 constexpr double kSecondsOfPixel = 1e-7;
 constexpr double kSecondsOfPageByte = 20.0 / (1U << 30U);
 
@@ -125,8 +126,9 @@ Cost costOf(const std::string& document, Picture picture, const Fuzz::SurfaceMak
     const double fonts = report.fonts * (picture == Picture::Pdf ? 2 : 1);
     cost.bytesAllowed = kBytesAtLeast + kBytesOfElement * elements + kBytesOfCharacter * size + output +
                         kBytesOfPixel * pixels + page + fonts;
-    cost.secondsAllowed = kSecondsOfMegabyte * std::max(1.0, std::ceil(size / 1e6)) + kSecondsOfPixel * pixels +
-                          kSecondsOfPageByte * page;
+    const double drawing = picture == Picture::Vector ? 0 : kSecondsOfDrawnMegabyte;
+    cost.secondsAllowed = (kSecondsOfMegabyte + drawing) * std::max(1.0, std::ceil(size / 1e6)) +
+                          kSecondsOfPixel * pixels + kSecondsOfPageByte * page;
     return cost;
 }
 

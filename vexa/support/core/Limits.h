@@ -6,13 +6,13 @@
 /// Every limit of the library, with the attack that it stops and the test that reaches it.
 namespace VEXA::Limits {
 
-/// Open elements. A document of opening tags alone would grow the parser's stack without end. Test: Limits.Nesting
+/// Open elements. A document of opening tags alone would grow the parser's stack without end. Test: Limits.OfDocuments
 inline constexpr std::size_t kNestingDepth = 256;
-/// Attributes of one element, namespace declarations counted; each is looked up and checked. Test: Limits.Attributes
+/// Attributes of one element, namespace declarations counted; each is looked up and checked. Test: Limits.OfDocuments
 inline constexpr std::size_t kAttributes = 4096;
-/// Elements of a document; each costs some hundred bytes. Test: Limits.Elements
+/// Elements of a document; each costs some hundred bytes. Test: Limits.OfDocuments
 inline constexpr std::size_t kElements = 5'000'000;
-/// Bytes of one tag or one attribute value; the tokeniser keeps an unfinished tag in memory. Test: Limits.TagSize
+/// Bytes of one tag or one attribute value; the tokeniser keeps an unfinished tag in memory. Test: Limits.OfDocuments
 inline constexpr std::size_t kTagBytes = 10'000'000;
 /// Warnings told of one document; a million unknown attributes would flood the log. Test: Limits.Warnings
 inline constexpr std::size_t kWarnings = 100;
@@ -51,7 +51,7 @@ inline constexpr std::size_t kDashEntries = 100;
 /// Test: Limits.FontFamily
 inline constexpr std::size_t kFontFamily = 1000;
 /// Characters that are shaped as one letter with its marks. HarfBuzz takes time in proportion to the square of the
-/// marks: a megabyte of them on one letter would be an hour. Test: LongTexts.TakeTimeInProportionToTheirLength
+/// marks: a megabyte of them on one letter would be an hour. Test: LongTexts.AreMeasuredAsTheyAreShaped
 inline constexpr std::size_t kClusterCharacters = 32;
 /// Largest coordinate that is written, in px; raster libraries count in fixed point. Test: Format.WritesHundredths
 inline constexpr float kCoordinate = 1e9F;
@@ -61,20 +61,21 @@ inline constexpr float kFontSize = 10'000.0F;
 /// sharp corners come on top. Test: CairoSurface.HostileNumbers
 inline constexpr double kRasterCoordinate = 2e6;
 /// Pixels of a side of a picture, and bytes of all. A chart of 100,000 px at a scale of 10 would ask for 4 TB.
-/// Test: PngLimits.RefusesBeforeItAllocates
+/// Test: PageLimits.AreToldBeforeAnythingIsAllocated
 inline constexpr int kRasterSide = 32'767;
 inline constexpr double kRasterBytes = 1'073'741'824;
 /// Pixels that the shapes of a PNG lie over, about a minute; those of a gradient or a text count eight times. 45,000
 /// gradients of a document of a megabyte, each over all of the largest picture, would take nine hours.
 /// Test: PngLimits.ShapesOverShapes
 inline constexpr double kPaintedPixels = 100'000'000'000.0;
-/// Largest side of a page of a PDF, in px: 200 inches, beyond which viewers refuse it. Test: PdfLimits.PageSize
+/// Largest side of a page of a PDF, in px: 200 inches, beyond which viewers refuse it.
+/// Test: PageLimits.AreToldBeforeAnythingIsAllocated
 inline constexpr float kPdfSide = 19'200.0F;
 /// Bytes that a page of a PDF takes until it ends, see PageRecord. A million grid lines of a document of 9 KB take one
 /// such GiB, a million bars in 3-D would take eight. Test: PdfLimits.APageThatIsTooFull
 inline constexpr double kPdfBytes = 1'073'741'824;
 /// Dashes of one outline, and of all of a page; each is a shape for cairo, and a pattern of 1e-6 px over 1000 px would
-/// be 1e9 of them. Longer patterns take their place. Test: CairoSurface.DashesAreBounded
+/// be 1e9 of them. Longer patterns take their place. Test: Limits.Dashes
 inline constexpr double kDashes = 100'000;
 inline constexpr double kPageDashes = 1'000'000;
 

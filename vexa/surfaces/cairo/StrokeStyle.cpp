@@ -39,15 +39,6 @@ Turn turnOf(const Vector<float>& pattern) noexcept {
 
 }  // namespace
 
-double DashBudget::stretchOf(double dashes) noexcept {
-    const double allowed = std::min(left_, Limits::kDashes);
-    if (!(allowed >= 1)) return 0;
-    left_ -= std::min(dashes, allowed);
-    return std::max(dashes / allowed, 1.0);
-}
-
-void DashBudget::renew() noexcept { left_ = Limits::kPageDashes; }
-
 StrokeStyle::StrokeStyle(const Stroke& stroke, const Path& path, const cairo_matrix_t& matrix,
                          DashBudget& dashes) noexcept
     : stroke_(stroke), pen_{matrix.xx, matrix.yx, matrix.xy, matrix.yy, 0, 0} {

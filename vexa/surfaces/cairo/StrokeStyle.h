@@ -1,20 +1,10 @@
 #pragma once
 
 #include "vexa/support/drawing/Stroke.h"
+#include "vexa/surfaces/cairo/DashBudget.h"
 #include "vexa/surfaces/cairo/DevicePath.h"
 
 namespace VEXA {
-
-/// How many dashes a page may still have.
-class DashBudget {
-public:
-    /// By how much a pattern that would make so many dashes is to be stretched, 1 or more; 0 when it is to be left out.
-    double stretchOf(double dashes) noexcept;
-    void renew() noexcept;
-
-private:
-    double left_ = 0;
-};
 
 /// What a stroke of this outline means to cairo. REQUIRES: a stroke that paints, a matrix that can be inverted; the
 /// stroke stays.
