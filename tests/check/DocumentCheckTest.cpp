@@ -124,6 +124,10 @@ TEST(DocumentCheck, WarnsOfChartsWithoutData) {
         {page(""), "1:1 warning 34110; ", "an empty page"},
         {page("<title value='T'/>"), "", "a title alone is one"},
         {page("\n<plot-area><bar-chart/>" + axes + "</plot-area>"), "2:1 warning 34111; ", "a plot without series"},
+        {page("<plot-area>\n<area-chart/><line-chart><serie stroke='red'>" + points({"A"}) + "</serie></line-chart>" +
+              axes + "</plot-area>"),
+         "2:1 warning 34119; ", "a chart without them beside another one"},
+        {page("<title value='T'/>\n<legend width='9' height='9'/>"), "2:1 warning 34137; ", "a legend without items"},
         {page("\n" + plot("bar", "")), "2:23 warning 34112; ", "a series without points"},
         {page("\n<pie/>"), "2:1 warning 34040; ", "a pie without slices"},
         {page("\n<spider/>"), "2:1 warning 34113; ", "a spider without axes"},
@@ -140,8 +144,16 @@ TEST(DocumentCheck, WarnsOfIdsReferencesAndSizes) {
     const std::string unknown =
         "<legend legend-placement='free' width='9' height='9'\n fill='url(#x)'>"
         "<legend-item stroke='url(#x)'/></legend>";
+    const std::string spider =
+        "<spider><spider-axis id='a'/><spider-serie fill='red'><spider-data-point axis-id='a' "
+        "value='1'/></spider-serie></spider>";
+    const std::string axisTwice = spider + spider;
     const std::string axes = "<spider-axis id='a'/>\n<spider-axis id='a'/>\n<spider-axis/><spider-axis/>";
     expectTold({
+        {page("<title id='g' value='T'/><defs>\n<linear-gradient id='g'/></defs>\n<pie id='g'><slice id='g' value='1' "
+              "fill='red'/></pie>"),
+         "3:1 hint 34138; 3:13 hint 34138; ", "of what nothing refers to; a definition is looked for alone"},
+        {page(axisTwice), "", "the axes of two spiders"},
         {page("<defs>" + twice + "\n" + twice + "</defs><title/>"), "2:1 warning 34103; ", "the first one is found"},
         {page(bars), "2:37 warning 34114; ", "handed on by the series, told once, of the first point"},
         {page(plot("line", "\n<data-point category='A' value='1' width='-3'/>")), "2:1 warning 34114; ", "a width"},

@@ -162,7 +162,7 @@ TEST(Program, EndsWithTheStatusThatItsHelpPromises) {
         {"render chart.xml -o chart.gif", 2, "a format that cannot be written"},
         {"render chart.xml chart.xml -o chart.svg", 2, "two pictures in a file that holds one"},
         {"render chart.xml -o chart.svg --scale 2", 2, "an option that the format has no use for"},
-        {"render chart.xml -o chart.xml --to svg", 2, "the document itself"},
+        {"render chart.xml -o chart.xml --to svg", 1, "over the document itself"},
         {"render none.xml chart.xml --out-dir out", 1, "one of two cannot be read"},
         {"check", 2, "nothing to check"},
         {"check chart.xml --diagnostics xml", 2, "a form that there is not"},

@@ -1,4 +1,5 @@
 #include "vexa/check/DocumentCheck.h"
+#include "vexa/check/AttributeRules.h"
 
 #include <algorithm>
 
@@ -80,6 +81,7 @@ void judge(const SmartPtr<IO::Stream>& stream, ProblemList& problems) {
     if (!root) return;
     const WarningLimitScope limit(Limits::kCheckedProblems);
     checkRoot(*root, problems);
+    checkAttributes(*root, problems);
     checkTree(*root, problems);
     WatchedPage page(problems);
     root->render(make<NullSurface>(), kReferenceWidth, kReferenceHeight, page);

@@ -1,6 +1,7 @@
 #include "vexa/check/TreeRules.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "vexa/cartesian/VexaPlotArea.h"
@@ -15,114 +16,31 @@ namespace VEXA {
 namespace {
 
 constexpr int kNoAxisId = 34000;
-constexpr int kNotFound = 34001;
-constexpr int kNearlyFound = 34102;
 constexpr int kUnknownAxis = 34016;
 constexpr int kNearAxis = 34104;
 constexpr int kNoSeries = 34111;
 constexpr int kNoPoints = 34112;
 constexpr int kSpiderWithout = 34113;
-constexpr int kBelowZero = 34114;
 constexpr int kSecondAxis = 34118;
+constexpr int kEmptyChart = 34119;
 constexpr int kBareGrid = 34125;
 constexpr int kBareWeb = 34126;
 constexpr int kUnseen = 34127;
 constexpr int kUnseenLine = 34130;
 constexpr int kHiddenCaptions = 34131;
 constexpr int kBelowNothing = 34135;
-constexpr int kOpacityBeyond = 34136;
-
-/// Lengths that areas, titles and layouts do not tell of themselves.
-constexpr std::string_view kSizes[] = {"stroke-width", "web-stroke-width", "marker-width",
-                                       "label-width",  "font-size",        "caption-size"};
-
-constexpr std::string_view kOpacities[] = {"opacity", "fill-opacity", "stroke-opacity", "stop-opacity",
-                                           "web-stroke-opacity"};
-
-/// Tells each size below 0 and each opacity beyond 0 to 1 once, where it stands, or where it takes effect first if its
-/// element only hands it on.
-class NumberRule {
-public:
-    explicit NumberRule(ProblemList& problems) noexcept : problems_(problems) {}
-
-    void check(const XmlObject& object) {
-        for (const std::string_view name : kSizes) checkSize(object, name);
-        if (object.isA(VexaDataPoint::typeID())) checkSize(object, "width");
-        for (const std::string_view name : kOpacities) checkOpacity(object, name);
-    }
-
-private:
-    /// The attribute when the document gives it and it was not told of.
-    const XmlValueBox* fresh(const XmlObject& object, std::string_view name) const {
-        const XmlAttributeTypeInfo* const attribute = object.getTypeInfo()->findAttribute(name);
-        const XmlValueBox* const box = attribute == nullptr ? nullptr : attribute->of(object).box();
-        return box == nullptr || box == &attribute->getDefault() || told_.contains(box) ? nullptr : box;
-    }
-
-    void checkSize(const XmlObject& object, std::string_view name) {
-        const XmlValueBox* const box = fresh(object, name);
-        if (box == nullptr) return;
-        const XmlObjectTypeInfo& info = *object.getTypeInfo();
-        const std::string text = info.findAttribute(name)->getType().print(*box);
-        if (!text.starts_with('-')) return;
-        told_.insert(box);
-        problems_.add(Severity::Warning, kBelowZero, {String(name), info.getElementName(), String(text)},
-                      object.getPlace());
-    }
-
-    void checkOpacity(const XmlObject& object, std::string_view name) {
-        const XmlValueBox* const box = fresh(object, name);
-        if (box == nullptr) return;
-        const FloatOrPercent& opacity = *readAttribute<FloatOrPercent>(object, name);
-        if (opacity.getValue() >= 0 && opacity.getValue() <= 1) return;
-        told_.insert(box);
-        const XmlObjectTypeInfo& info = *object.getTypeInfo();
-        const std::int64_t counts = opacity.getValue() < 0 ? 0 : 1;
-        problems_.add(
-            Severity::Hint, kOpacityBeyond,
-            {String(name), info.getElementName(), String(info.findAttribute(name)->getType().print(*box)), counts},
-            object.getPlace());
-    }
-
-    ProblemList& problems_;
-    std::unordered_set<const XmlValueBox*> told_;
-};
-
-/// Tells each reference that leads nowhere once, where sizes are told; a render tells it of each element it paints.
-class ReferenceRule {
-public:
-    explicit ReferenceRule(VexaRoot& root) noexcept : root_(root) {}
-
-    void check(VexaObject& object) {
-        checkPaint<SNullableColor>(object, "fill", [](const SNullableColor& paint) { return paint.getSColor(); });
-        checkPaint<SNullableColor>(object, "stroke", [](const SNullableColor& paint) { return paint.getSColor(); });
-        checkPaint<SColor>(object, "web-stroke", [](const SColor& paint) { return paint; });
-        if (object.getTypeInfo()->findAttribute("href") != nullptr)
-            checkReference(object, *readAttribute<String>(object, "href"));
-    }
-
-private:
-    template <class T, class ToColor>
-    void checkPaint(VexaObject& object, std::string_view name, const ToColor& toColor) {
-        if (object.getTypeInfo()->findAttribute(name) == nullptr) return;
-        const TXmlAttribute<T>& paint = readAttribute<T>(object, name);
-        if (told_.contains(paint.box())) return;
-        const SColor color = toColor(*paint);
-        if (color.getType() == SColorType::Url && !checkReference(object, color.getUrl())) told_.insert(paint.box());
-    }
-
-    bool checkReference(VexaObject& object, const String& reference) {
-        if (reference.isEmpty() || root_.findObject(reference)) return true;
-        object.tellNotFound(reference);
-        return false;
-    }
-
-    VexaRoot& root_;
-    std::unordered_set<const XmlValueBox*> told_;
-};
+constexpr int kNoItems = 34137;
 
 void checkPlot(VexaPlotArea& plot, ProblemList& problems) {
-    if (plot.getSerieCount() == 0) problems.add(Severity::Warning, kNoSeries, {}, plot.getPlace());
+    if (plot.getSerieCount() == 0) return problems.add(Severity::Warning, kNoSeries, {}, plot.getPlace());
+    for (const auto& chart : plot.getCharts()) {
+        if (chart->getSeries().isEmpty())
+            problems.add(Severity::Warning, kEmptyChart, {chart->getTypeInfo()->getElementName()}, chart->getPlace());
+    }
+}
+
+void checkLegend(const VexaLegend& legend, ProblemList& problems) {
+    if (legend.getItems().isEmpty()) problems.add(Severity::Warning, kNoItems, {}, legend.getPlace());
 }
 
 void checkPoints(std::size_t count, const XmlObject& serie, const char* point, ProblemList& problems) {
@@ -257,17 +175,14 @@ SourcePlace lastChildPlace(const XmlObject& object) {
 }
 
 void checkTree(VexaRoot& root, ProblemList& problems) {
-    NumberRule numbers(problems);
-    ReferenceRule references(root);
     walkTree(root, [&](XmlObject& object) {
-        numbers.check(object);
-        references.check(static_cast<VexaObject&>(object));
         if (object.isA(VexaPlotArea::typeID())) checkPlot(static_cast<VexaPlotArea&>(object), problems);
         if (object.isA(VexaSpider::typeID())) checkSpider(static_cast<VexaSpider&>(object), problems);
+        if (object.isA(VexaLegend::typeID())) checkLegend(static_cast<VexaLegend&>(object), problems);
         if (object.isA(VexaSerie::typeID()))
             checkPoints(static_cast<VexaSerie&>(object).getDataPoints().size(), object, "data-point", problems);
     });
-    problems.ignoreWarnings({kNotFound, kNearlyFound, kNoAxisId, kUnknownAxis, kNearAxis});
+    problems.ignoreWarnings({kNoAxisId, kUnknownAxis, kNearAxis});
 }
 
 void checkVisibility(VexaRoot& root, ProblemList& problems) {

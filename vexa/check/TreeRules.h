@@ -9,8 +9,7 @@ namespace VEXA {
 /// Where the last child of an element begins; without children the element itself.
 SourcePlace lastChildPlace(const XmlObject& object);
 
-/// Before the tree is painted, which changes it: charts without data, lengths below 0, references
-/// that lead nowhere, data points without their axis.
+/// Before the tree is painted, which changes it: charts without data, data points without their axis.
 void checkTree(VexaRoot& root, ProblemList& problems);
 
 /// When the tree has been painted: captions that hide each other, and grid lines, series and slices that neither the

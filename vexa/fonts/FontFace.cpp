@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <new>
 #include <string_view>
 
 #include "vexa/fonts/CompiledFonts.h"
 #include "vexa/fonts/HarfBuzz.h"
+#include "vexa/support/drawing/LiberationSansWidths.h"
 
 namespace VEXA {
 
@@ -22,8 +24,11 @@ std::string_view tableBytes(hb_blob_t& blob) {
     return {data == nullptr ? "" : data, length};
 }
 
+/// Empty when there is none. The library has none, too, when memory runs out for a moment, so it is asked twice.
 HarfBuzzPtr<hb_blob_t> tableOf(hb_face_t& face, hb_tag_t tag) {
-    return HarfBuzzPtr<hb_blob_t>(harfBuzz().face_reference_table(&face, tag));
+    HarfBuzzPtr<hb_blob_t> table(harfBuzz().face_reference_table(&face, tag));
+    if (tableBytes(*table).empty()) table.reset(harfBuzz().face_reference_table(&face, tag));
+    return table;
 }
 
 bool hasTable(hb_face_t& face, hb_tag_t tag) { return !tableBytes(*tableOf(face, tag)).empty(); }
@@ -56,13 +61,14 @@ FontMetrics metricsOf(hb_face_t& face) {
 
 HarfBuzzPtr<hb_face_t> faceOf(const FontData& data, unsigned index) {
     const auto bytes = data.bytes();
-    if (bytes.size() > std::numeric_limits<unsigned>::max()) return nullptr;
+    if (bytes.empty() || bytes.size() > std::numeric_limits<unsigned>::max()) return nullptr;
     const HarfBuzz& hb = harfBuzz();
-    const HarfBuzzPtr<hb_blob_t> blob(hb.blob_create(reinterpret_cast<const char*>(bytes.data()),
-                                                     static_cast<unsigned>(bytes.size()), HB_MEMORY_MODE_READONLY,
-                                                     nullptr, nullptr));
+    const auto blob =
+        takeCreated(hb.blob_create(reinterpret_cast<const char*>(bytes.data()), static_cast<unsigned>(bytes.size()),
+                                   HB_MEMORY_MODE_READONLY, nullptr, nullptr),
+                    hb.blob_get_empty());
     if ((index & kFaceBits) >= hb.face_count(blob.get())) return nullptr;
-    return HarfBuzzPtr<hb_face_t>(hb.face_create(blob.get(), index & kFaceBits));
+    return takeCreated(hb.face_create(blob.get(), index & kFaceBits), hb.face_get_empty());
 }
 
 }  // namespace
@@ -81,7 +87,7 @@ FontFace::FontFace(SmartPtr<FontData> data, unsigned index, std::string name, hb
       isColored_(hasColors(face)) {
     const HarfBuzz& hb = harfBuzz();
     hb.face_make_immutable(&face);
-    font_ = hb.font_create(&face);  // its scale is the face's units per em
+    font_ = takeCreated(hb.font_create(&face), hb.font_get_empty()).release();  // its scale is the units per em
     const unsigned instance = index_ >> kInstanceShift;
     if (instance > 0) hb.font_set_var_named_instance(font_, instance - 1);
     hb.font_make_immutable(font_);
@@ -108,6 +114,10 @@ const SmartPtr<FontFace>& compiledFace(FontStyleRequest style) {
         Faces result;
         for (std::size_t i = 0; i < result.size(); ++i) {
             result[i] = FontFace::open(make<FontData>(compiledFont(i % 2 == 1, i >= 2)), 0, kNames[i]);
+            // It is whole: what it lacks the library had no memory for. The next one to ask starts anew.
+            const bool isWhole = result[i] != nullptr && result[i]->hasGlyph(U'A') &&
+                                 result[i]->metrics().unitsPerEm == kLiberationSansUnitsPerEm;
+            if (!isWhole) throw std::bad_alloc();
         }
         return result;
     }());

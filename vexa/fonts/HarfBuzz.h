@@ -4,6 +4,7 @@
 #include <hb.h>
 
 #include <memory>
+#include <new>
 
 namespace VEXA {
 
@@ -12,11 +13,13 @@ namespace VEXA {
     X(blob_create)                  \
     X(blob_destroy)                 \
     X(blob_get_data)                \
+    X(blob_get_empty)               \
     X(buffer_add_codepoints)        \
     X(buffer_allocation_successful) \
     X(buffer_clear_contents)        \
     X(buffer_create)                \
     X(buffer_destroy)               \
+    X(buffer_get_empty)             \
     X(buffer_get_glyph_infos)       \
     X(buffer_get_glyph_positions)   \
     X(buffer_set_direction)         \
@@ -25,17 +28,19 @@ namespace VEXA {
     X(face_count)                   \
     X(face_create)                  \
     X(face_destroy)                 \
+    X(face_get_empty)               \
     X(face_get_glyph_count)         \
     X(face_get_upem)                \
     X(face_make_immutable)          \
     X(face_reference_table)         \
     X(font_create)                  \
     X(font_destroy)                 \
+    X(font_get_empty)               \
     X(font_get_nominal_glyph)       \
     X(font_make_immutable)          \
     X(font_set_var_named_instance)  \
     X(language_from_string)         \
-    X(shape)                        \
+    X(shape_full)                   \
     X(unicode_compose)              \
     X(unicode_decompose)            \
     X(unicode_funcs_get_default)    \
@@ -63,5 +68,14 @@ struct HarfBuzzDeleter {
 };
 template <class T>
 using HarfBuzzPtr = std::unique_ptr<T, HarfBuzzDeleter>;
+
+/// Takes an object that was asked for. Where memory runs out the library makes its empty one of it, which nothing can
+/// be done with: that is std::bad_alloc.
+template <class T>
+HarfBuzzPtr<T> takeCreated(T* object, const T* empty) {
+    HarfBuzzPtr<T> owner(object);
+    if (object == empty) throw std::bad_alloc();
+    return owner;
+}
 
 }  // namespace VEXA

@@ -12,8 +12,10 @@ namespace {
 /// Characters. A buffer keeps its memory from text to text, but that of a longer one is given back.
 constexpr std::size_t kLongestKept = 65'536;
 
+HarfBuzzPtr<hb_buffer_t> newBuffer() { return takeCreated(harfBuzz().buffer_create(), harfBuzz().buffer_get_empty()); }
+
 hb_buffer_t& threadBuffer() {
-    thread_local const HarfBuzzPtr<hb_buffer_t> buffer(harfBuzz().buffer_create());
+    thread_local const HarfBuzzPtr<hb_buffer_t> buffer = newBuffer();  // made anew after a failure
     return *buffer;
 }
 
@@ -28,7 +30,7 @@ ItemShaper::ItemShaper(std::u32string_view text) : text_(text), ofHan_(languageO
 
 hb_buffer_t& ItemShaper::bufferFor(const TextItem& item) {
     if (item.end - item.begin <= kLongestKept) return threadBuffer();
-    if (largeBuffer_ == nullptr) largeBuffer_.reset(harfBuzz().buffer_create());
+    if (largeBuffer_ == nullptr) largeBuffer_ = newBuffer();
     return *largeBuffer_;
 }
 
@@ -43,8 +45,8 @@ ItemGlyphs ItemShaper::shape(const TextItem& item) {
     hb.buffer_set_direction(&buffer, item.isRightToLeft() ? HB_DIRECTION_RTL : HB_DIRECTION_LTR);
     hb.buffer_set_script(&buffer, item.script);
     hb.buffer_set_language(&buffer, hb.language_from_string(language, -1));
-    hb.shape(item.face->shapingFont(), &buffer, nullptr, 0);
-    if (hb.buffer_allocation_successful(&buffer) == 0) throw std::bad_alloc();
+    const bool isShaped = hb.shape_full(item.face->shapingFont(), &buffer, nullptr, 0, nullptr) != 0;
+    if (!isShaped || hb.buffer_allocation_successful(&buffer) == 0) throw std::bad_alloc();
     unsigned count = 0;
     const hb_glyph_info_t* const infos = hb.buffer_get_glyph_infos(&buffer, &count);
     const hb_glyph_position_t* const positions = hb.buffer_get_glyph_positions(&buffer, &count);

@@ -171,6 +171,7 @@ constexpr Message kMessages[] = {
     {34116, R"(the top element is "{0}"; put it into a <root xmlns="{1}">)"},
     {34117, "{0} more problems of this document are left out; correct these first"},
     {34118, R"(a second axis has the id "{0}", data points show on both; give one of them another id)"},
+    {34119, R"(the "{0}" has no series, nothing of it is drawn; add a "serie", or leave it out)"},
 
     // What only a check tells: hints.
     {34120, R"(the categories are years, but count as numbers on an axis from {0} to {1}; write data-type="text" for )"
@@ -202,6 +203,8 @@ constexpr Message kMessages[] = {
      R"(each series the sums, or take a bar-chart)"},
     {34135, R"(the slice of {0} is drawn like one of {1}; leave it out, or take bars, which can go below zero)"},
     {34136, R"(the "{0}" {2} of the "{1}" counts as {3}; write a number from 0 to 1, or a percentage)"},
+    {34137, R"(the legend has no items, only its background is drawn; add a "legend-item" for each series or slice)"},
+    {34138, R"(the id "{0}" is that of the "{1}" in line {2}, too; give one of them another id)"},
 
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
