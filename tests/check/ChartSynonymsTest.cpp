@@ -39,6 +39,8 @@ TEST(ChartSynonyms, LeadFromOtherVocabulariesToOurs) {
          R"("serie" may not stand in "spider" and is skipped; did you mean "spider-serie"?)",
          "an element of another chart"},
         {"<serie/>", "write it inside <area-chart>", "nothing here goes by that name"},
+        {"<legend><legend-item marker='square'/></legend>", R"(did you mean "label"?)",
+         "there is nothing to hand it on to"},
         {"<pie><slice unit='5'/></pie>", "write it on <category-axis> or <value-axis>", "an attribute of others"},
     };
     for (const auto& c : cases)

@@ -119,7 +119,7 @@ TEST(Schema, IsStricterThanTheEngineInAFewPoints) {
     const std::vector<Case> cases = {
         {"<root xmlns='http://vexa-charts.org/2008/vx' xmlns:v='http://vexa-charts.org/2008/vx' v:width='9'/>",
          "attributes with a prefix"},
-        {slice("marker='circle'"), "what is inherited, where nothing takes it"},
+        {page("<pie marker='circle'><slice value='1'/></pie>"), "what is inherited, where nothing inside takes it"},
         {page("<defs><linear-gradient id='g'/></defs><defs><radial-gradient id='g'/></defs>"), "gradients of one name"},
         {spider("<spider-axis id='a'/><spider-axis id='a'/>", "<spider-data-point axis-id='a' value='1'/>"),
          "axes of one name"},

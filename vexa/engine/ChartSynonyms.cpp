@@ -26,6 +26,8 @@ constexpr SynonymGroup kGroups[] = {
     "stop color-stop",
     // Attributes
     "caption value text label title name",
+    "marker label shape symbol",
+    "label-width marker-width",
     "category x key",
     "value y",
     "min minimum",

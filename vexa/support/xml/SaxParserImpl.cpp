@@ -223,7 +223,8 @@ private:
         const std::string_view name = token.name.local;
         const bool foreign = !token.name.uri.empty() && token.name.uri != info.getNamespace().uri;
         const auto* const attribute = foreign ? nullptr : info.findAttribute(name);
-        const int id = foreign || attribute != nullptr ? -1 : XmlObjectFactory::instance().findInheritable(name);
+        const bool handsOn = !foreign && attribute == nullptr && info.hasChildren();
+        const int id = handsOn ? XmlObjectFactory::instance().findInheritable(name) : -1;
         const bool isKnown = attribute != nullptr || id >= 0;
         if (isKnown && isRepeated(tokens, info.getNamespace())) {
             warn(3019, {String(name), info.getElementName()}, getPlace());
@@ -311,10 +312,14 @@ private:
         String meant = synonymFor(name, known);
         const String owners = meant.isEmpty() ? ownersOf(name) : String();
         if (!owners.isEmpty()) return warn(3021, {String(name), info.getElementName(), owners}, getPlace());
-        for (const auto& inheritable : XmlObjectFactory::instance().inheritableNames())
-            known.push_back(inheritable.name);
+        if (info.hasChildren()) addInheritableNames(known);
         if (meant.isEmpty()) meant = guessFor(name, known);
         warn(meant.isEmpty() ? 3006 : 3007, {quoted(name), info.getElementName(), meant}, getPlace());
+    }
+
+    static void addInheritableNames(Vector<std::string_view>& known) {
+        for (const auto& inheritable : XmlObjectFactory::instance().inheritableNames())
+            known.push_back(inheritable.name);
     }
 
     void tellText(const XmlObjectTypeInfo& info, std::string_view piece) {
