@@ -166,34 +166,12 @@ TEST(DocumentCheck, WarnsOfIdsReferencesAndSizes) {
     });
 }
 
-TEST(DocumentCheck, HintsAtWhatWillDisappoint) {
+TEST(DocumentCheck, HintsAtDataThatItsAxesDistort) {
     const auto line = [](const std::string& data, const std::string& axis) { return page(plot("line", data, axis)); };
     const std::string years = points({"2019", "2020", "2021"});
     const std::string between = "<category-axis><display-values placement='between-ticks'/></category-axis>";
-    const auto legend = [](const std::string& attributes) {
-        return page("\n<legend " + attributes + "><legend-item caption='A'/></legend>");
-    };
-    const auto root = [](const std::string& attributes, const std::string& content) {
-        return kRoot + attributes + " viewBox='0 0 200 100'>" + content + "</root>";
-    };
-    const std::string free = "legend-placement='free' height='20' width=";
-    const std::string docked = "<legend width='20'><legend-item/></legend>";
-    const std::string title = "<title value='T' height='50'/>";
-    const auto grid = [](const std::string& attributes) {
-        return "<value-axis>\n<grid-lines " + attributes + "/></value-axis>";
-    };
-    const auto spider = [](const std::string& attributes, const std::string& serie) {
-        return page("<spider " + attributes + "><spider-axis id='a'/>\n<spider-serie " + serie +
-                    "><spider-data-point axis-id='a' value='3'/></spider-serie></spider>");
-    };
-    const auto bare = [](const std::string& attributes, const std::string& point) {
-        return "<plot-area " + attributes + "><line-chart>\n<serie><data-point category='A' value='1' " + point +
-               "/></serie></line-chart><value-axis/><category-axis/></plot-area>";
-    };
     const std::string serie = "<serie fill='red'>" + points({"A", "B"}) + "</serie>";
     const std::string axes = "<value-axis/><category-axis/>";
-    std::string slices = "<slice value='300' stroke='red'/>";
-    for (int i = 0; i < 20; ++i) slices += "<slice value='1' stroke='red' caption='Caption'/>";
     const auto numbers = [&](const char* last) {
         return line(
             "<data-point category='A' value='1,5'/>\n<data-point category='B' value='" + std::string(last) + "'/>", "");
@@ -203,32 +181,9 @@ TEST(DocumentCheck, HintsAtWhatWillDisappoint) {
         {line(years, "<category-axis data-type='text'/>"), "", "years as names"},
         {line(years, "<category-axis><display-values min='2019'/></category-axis>"), "", "years from the first on"},
         {line(points({"100", "2000", "2500"}), ""), "", "numbers that are no years"},
-        {legend(""), "2:1 hint 34121; ", "docked at the right, as wide as the page"},
-        {legend("legend-placement='top' width='50'"), "2:1 hint 34121; ", "at the top the height counts"},
-        {legend("width='90'"), "", "room for the chart is left"},
-        {legend(free + "'500'"), "2:1 hint 34122; ", "wider than the page"},
-        {legend(free + "'400'"), "", "as wide as it"},
         {page(plot("bar", points({"A", "B"}), "\n<category-axis/>")), "2:1 hint 34123; ", "half of each bar"},
         {page(plot("bar", points({"A", "B"}), between)), "", "whole bars"},
         {line(points({"A", "B"}), ""), "", "lines end on the edge"},
-        {root("width='400' height='200'", docked), "1:1 hint 34124; 1:93 warning 34051; ", "docked beside the page"},
-        {root("width='100' height='50' fill='red'", title), "1:1 hint 34124; ", "a quarter of the background"},
-        {root("width='400' height='200' fill='red'", title), "", "the background covers more than the page"},
-        {root("width='200' height='100' fill='red'", docked), "", "of one size"},
-        {root("fill='red'", docked), "", "100% is the view box"},
-        {line(points({"A"}), grid("")), "2:1 hint 34125; ", "a grid that does not show"},
-        {line(points({"A"}), grid("stroke='red'")), "", "one that does"},
-        {line(points({"A"}), grid("type='none'")), "", "one that is not meant to"},
-        {spider("web-stroke-width='0'", "fill='red'"), "1:85 hint 34126; ", "a web of no width"},
-        {spider("web-stroke-width='0' draw-web='false'", "fill='red'"), "", "no web"},
-        {spider("", ""), "2:1 hint 34127; ", "a series of no colour: themes give spiders none"},
-        {page("<pie><slice value='0'/>\n<slice value='2'/><slice value='1'/></pie>"), "2:1 hint 34127; ", "told once"},
-        {page("<pie fill='red'>\n<slice value='2' stroke='red'/></pie>"), "", "an outline shows"},
-        {page("\n<pie fill='red'>" + slices + "</pie>"), "2:1 hint 34131; ", "captions of thin slices"},
-        {page(bare("", "")), "2:1 hint 34130; ", "a line without stroke"},
-        {page(bare("", "caption='1'")), "", "meant for its captions"},
-        {page(bare("aspect-3d-view='true'", "fill='red'")), "2:1 hint 34127; ", "the ribbon is the series' own"},
-        {kRoot + ">" + bare("", "") + "</root>", "", "the theme gives a stroke"},
         {line("\n" + points({"05.03.2024", "6.3.2024"}), "<category-axis unit='days'/>"), "2:1 hint 34128; ",
          "no dates"},
         {line(points({"A", "B", "2024-03-01"}) + "\n" + points({"3/25/2024"}), ""), "2:1 hint 34128; ",
@@ -245,16 +200,72 @@ TEST(DocumentCheck, HintsAtWhatWillDisappoint) {
          "2:1 hint 34134; ", "areas are not summed up"},
         {page("<plot-area>\n<area-chart grouping='stacked'>" + serie + "</area-chart>" + axes + "</plot-area>"), "",
          "one is no stack"},
+        {numbers("2,5"), "1:143 hint 34129; ", "values that count as texts"},
+        {numbers("high"), "1:143 hint 34129; ", "the first one that was meant as a number"},
+    });
+}
+
+TEST(DocumentCheck, HintsAtWhatDoesNotShowAsItIsMeant) {
+    const auto line = [](const std::string& data, const std::string& axis) { return page(plot("line", data, axis)); };
+    const auto grid = [](const std::string& attributes) {
+        return "<value-axis>\n<grid-lines " + attributes + "/></value-axis>";
+    };
+    const auto spider = [](const std::string& attributes, const std::string& serie) {
+        return page("<spider " + attributes + "><spider-axis id='a'/>\n<spider-serie " + serie +
+                    "><spider-data-point axis-id='a' value='3'/></spider-serie></spider>");
+    };
+    const auto bare = [](const std::string& attributes, const std::string& point) {
+        return "<plot-area " + attributes + "><line-chart>\n<serie><data-point category='A' value='1' " + point +
+               "/></serie></line-chart><value-axis/><category-axis/></plot-area>";
+    };
+    std::string slices = "<slice value='300' stroke='red'/>";
+    for (int i = 0; i < 20; ++i) slices += "<slice value='1' stroke='red' caption='Caption'/>";
+    expectTold({
+        {line(points({"A"}), grid("")), "2:1 hint 34125; ", "a grid that does not show"},
+        {line(points({"A"}), grid("stroke='red'")), "", "one that does"},
+        {line(points({"A"}), grid("type='none'")), "", "one that is not meant to"},
+        {spider("web-stroke-width='0'", "fill='red'"), "1:85 hint 34126; ", "a web of no width"},
+        {spider("web-stroke-width='0' draw-web='false'", "fill='red'"), "", "no web"},
+        {spider("", ""), "2:1 hint 34127; ", "a series of no colour: themes give spiders none"},
+        {page("<pie><slice value='0'/>\n<slice value='2'/><slice value='1'/></pie>"), "2:1 hint 34127; ", "told once"},
+        {page("<pie fill='red'>\n<slice value='2' stroke='red'/></pie>"), "", "an outline shows"},
+        {page("\n<pie fill='red'>" + slices + "</pie>"), "2:1 hint 34131; ", "captions of thin slices"},
+        {page(bare("", "")), "2:1 hint 34130; ", "a line without stroke"},
+        {page(bare("", "caption='1'")), "", "meant for its captions"},
+        {page(bare("aspect-3d-view='true'", "fill='red'")), "2:1 hint 34127; ", "the ribbon is the series' own"},
+        {kRoot + ">" + bare("", "") + "</root>", "", "the theme gives a stroke"},
         {page("<pie>\n<slice value='2' fill='red'/>\n<slice value='-2' fill='red'/><slice value='-3' "
               "fill='red'/></pie>"),
          "3:1 hint 34135; ", "as large as one of 2, told of the first"},
         {page("\n<title value='T' fill-opacity='50'/>"), "2:1 hint 34136; ", "not 50%"},
         {page("\n<title value='T' fill-opacity='1' stroke-opacity='100%' opacity='-0.1'/>"), "2:1 hint 34136; ",
          "0 and 1 are within"},
-        {numbers("2,5"), "1:143 hint 34129; ", "values that count as texts"},
-        {numbers("high"), "1:143 hint 34129; ", "the first one that was meant as a number"},
         {page("<title value='T' x='a' stroke-width='-1'/>\n<legend width='a'><legend-item/></legend>"),
          "1:85 error 3003; 1:85 warning 34114; 2:1 error 3003; ", "no hint that an error explains"},
+    });
+}
+
+TEST(DocumentCheck, HintsAtSizesThatDoNotFitThePage) {
+    const auto legend = [](const std::string& attributes) {
+        return page("\n<legend " + attributes + "><legend-item caption='A'/></legend>");
+    };
+    const auto root = [](const std::string& attributes, const std::string& content) {
+        return kRoot + attributes + " viewBox='0 0 200 100'>" + content + "</root>";
+    };
+    const std::string free = "legend-placement='free' height='20' width=";
+    const std::string docked = "<legend width='20'><legend-item/></legend>";
+    const std::string title = "<title value='T' height='50'/>";
+    expectTold({
+        {legend(""), "2:1 hint 34121; ", "docked at the right, as wide as the page"},
+        {legend("legend-placement='top' width='50'"), "2:1 hint 34121; ", "at the top the height counts"},
+        {legend("width='90'"), "", "room for the chart is left"},
+        {legend(free + "'500'"), "2:1 hint 34122; ", "wider than the page"},
+        {legend(free + "'400'"), "", "as wide as it"},
+        {root("width='400' height='200'", docked), "1:1 hint 34124; 1:93 warning 34051; ", "docked beside the page"},
+        {root("width='100' height='50' fill='red'", title), "1:1 hint 34124; ", "a quarter of the background"},
+        {root("width='400' height='200' fill='red'", title), "", "the background covers more than the page"},
+        {root("width='200' height='100' fill='red'", docked), "", "of one size"},
+        {root("fill='red'", docked), "", "100% is the view box"},
     });
 }
 
