@@ -18,15 +18,15 @@ struct TextCase {
     const char* why;
 };
 
-TEST(StringFormatStream, FillsPlaceholdersInOnePass) {
+TEST(StringFormatStream, FillsFieldsInOnePass) {
     const std::tuple<const char*, VariantArray, const char*, const char*> cases[] = {
         {"{1}{0}{1}", {String("a"), String("b")}, "bab", "any order, more than once"},
         {"{0}!", {String("{1}{0}"), String("b")}, "{1}{0}!", "an argument is never a template"},
         {"{0}{1}", {String("{"), String("1}")}, "{1}", "nor are two of them together"},
-        {"{0} {1}", {String("a")}, "a {1}", "a placeholder without an argument stays"},
+        {"{0} {1}", {String("a")}, "a {1}", "a field without an argument stays"},
         {"{10}", VariantArray(11, String("x")), "x", "two digits"},
         {"{99999999999999999999}", {String("a")}, "{99999999999999999999}", "no argument has that number"},
-        {"{} {a} {0 {{0}} }{", {String("x")}, "{} {a} {0 {x} }{", "braces that are no placeholders stay"},
+        {"{} {a} {0 {{0}} }{", {String("x")}, "{} {a} {0 {x} }{", "braces that are no fields stay"},
         {"{0} {1}", {std::int64_t{-9223372036854775807}, 0.1 + 0.2}, "-9223372036854775807 0.3", "numbers"},
     };
     for (const auto& [text, with, expected, why] : cases)

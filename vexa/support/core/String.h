@@ -89,7 +89,7 @@ public:
     /// White space of XML and Unicode's space separators, without the no-break ones (a line does not break there).
     static bool isSpace(char32_t character) noexcept;
 
-    /// The text of a numbered message, with placeholders {0}, {1}, …; empty for an unknown number.
+    /// The text of a numbered message, with fields {0}, {1}, …; empty for an unknown number.
     static String loadString(int number);
 
     friend String operator+(const String& a, const String& b);

@@ -17,17 +17,17 @@ void append(const Variant& argument, std::u32string& out) {
     }
 }
 
-struct Placeholder {
+struct Field {
     std::size_t argument = 0;
     std::size_t length = 0;  ///< in characters, both braces included; 0 when there is none
 };
 
 bool isDigit(char32_t c) noexcept { return c >= U'0' && c <= U'9'; }
 
-/// The placeholder at the start of `text`. REQUIRES: text starts with a brace.
-Placeholder readPlaceholder(std::u32string_view text) noexcept {
+/// The field at the start of `text`. REQUIRES: text starts with a brace.
+Field readField(std::u32string_view text) noexcept {
     constexpr std::size_t kMaxDigits = 4;  // far more arguments than any message has
-    Placeholder result;
+    Field result;
     std::size_t at = 1;
     for (; at < text.size() && at <= kMaxDigits && isDigit(text[at]); ++at) {
         result.argument = result.argument * 10 + (text[at] - U'0');
@@ -43,11 +43,11 @@ String StringFormatStream::format(const String& messageTemplate, const VariantAr
     std::u32string result;
     std::u32string_view rest = messageTemplate.view();
     for (std::size_t brace = rest.find(U'{'); brace != rest.npos; brace = rest.find(U'{')) {
-        const Placeholder placeholder = readPlaceholder(rest.substr(brace));
-        const bool filled = placeholder.length != 0 && placeholder.argument < arguments.size();
+        const Field field = readField(rest.substr(brace));
+        const bool filled = field.length != 0 && field.argument < arguments.size();
         result.append(rest.substr(0, filled ? brace : brace + 1));
-        if (filled) append(arguments[placeholder.argument], result);
-        rest.remove_prefix(brace + (filled ? placeholder.length : 1));
+        if (filled) append(arguments[field.argument], result);
+        rest.remove_prefix(brace + (filled ? field.length : 1));
     }
     return String(result.append(rest));
 }

@@ -4,8 +4,8 @@
 
 namespace VEXA {
 
-/// Fills the placeholders {0}, {1}, … of a template with arguments, in one pass: text that comes from an argument is
-/// never read as a template. A placeholder without an argument stays as it is.
+/// Fills the fields {0}, {1}, … of a template with arguments, in one pass: text that comes from an argument is
+/// never read as a template. A field without an argument stays as it is.
 class StringFormatStream {
 public:
     explicit StringFormatStream(const String& messageTemplate) : template_(messageTemplate) {}
