@@ -220,6 +220,9 @@ TEST(DocumentCheck, HintsAtWhatDoesNotShowAsItIsMeant) {
     };
     std::string slices = "<slice value='300' stroke='red'/>";
     for (int i = 0; i < 20; ++i) slices += "<slice value='1' stroke='red' caption='Caption'/>";
+    const std::string serie = "<serie fill='red'>" + points({"A", "B"}) + "</serie>";
+    const std::string between =
+        "<value-axis/><category-axis><display-values placement='between-ticks'/></category-axis>";
     expectTold({
         {line(points({"A"}), grid("")), "2:1 hint 34125; ", "a grid that does not show"},
         {line(points({"A"}), grid("stroke='red'")), "", "one that does"},
@@ -232,6 +235,11 @@ TEST(DocumentCheck, HintsAtWhatDoesNotShowAsItIsMeant) {
         {page("\n<pie fill='red'>" + slices + "</pie>"), "2:1 hint 34131; ", "captions of thin slices"},
         {page(bare("", "")), "2:1 hint 34130; ", "a line without stroke"},
         {page(bare("", "caption='1'")), "", "meant for its captions"},
+        {page("<plot-area>\n<bar-chart bar-shape='cylinder'>" + serie + "</bar-chart>" + between + "</plot-area>"),
+         "2:1 hint 34139; ", "cylinders in the flat view"},
+        {page("<plot-area aspect-3d-view='true'><bar-chart bar-shape='cylinder'>" + serie + "</bar-chart>" + between +
+              "</plot-area>"),
+         "", "in the 3-D view"},
         {page(bare("aspect-3d-view='true'", "fill='red'")), "2:1 hint 34127; ", "the ribbon is the series' own"},
         {kRoot + ">" + bare("", "") + "</root>", "", "the theme gives a stroke"},
         {page("<pie>\n<slice value='2' fill='red'/>\n<slice value='-2' fill='red'/><slice value='-3' "

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "vexa/check/AttributeReading.h"
 #include "vexa/support/core/QuotedText.h"
 #include "vexa/support/values/LocalForms.h"
 
@@ -16,6 +17,7 @@ constexpr int kTextForDate = 34128;
 constexpr int kTextForNumber = 34129;
 constexpr int kBeyondAxis = 34133;
 constexpr int kStackedAreas = 34134;
+constexpr int kFlatCylinders = 34139;
 constexpr double kFirstYear = 1500;  // numbers between these two, and no others, are taken for years
 constexpr double kLastYear = 2200;
 constexpr float kClip = 1;  // px that the clip of a chart leaves around the plot
@@ -149,6 +151,15 @@ void checkStacking(const VexaPlotArea& plot, ProblemList& problems) {
     }
 }
 
+void checkShapes(VexaPlotArea& plot, ProblemList& problems) {
+    if (plot.isView3DMode()) return;
+    for (const auto& chart : plot.getCharts()) {
+        if (chart->getContainerKind() == ContainerKind::Bar &&
+            *readAttribute<BarShapeType>(*chart, "bar-shape") == BarShapeType::Cylinder)
+            problems.add(Severity::Hint, kFlatCylinders, {}, chart->getPlace());
+    }
+}
+
 }  // namespace
 
 void checkPlotData(VexaPlotArea& plot, ProblemList& problems) {
@@ -171,6 +182,7 @@ void checkPlotLayout(VexaPlotArea& plot, VexaRenderContext& context, ProblemList
     if (!hasBothAxes(plot)) return;
     checkYears(plot, problems);
     checkStacking(plot, problems);
+    checkShapes(plot, problems);
     for (const bool category : {false, true}) checkReach(plot, category, problems);
     const SizeF size = plot.getAreaSize(context);
     if (size.width > 0 && size.height > 0) checkBars(plot, context, problems);

@@ -205,6 +205,8 @@ constexpr Message kMessages[] = {
     {34136, R"(the "{0}" {2} of the "{1}" counts as {3}; write a number from 0 to 1, or a percentage)"},
     {34137, R"(the legend has no items, only its background is drawn; add a "legend-item" for each series or slice)"},
     {34138, R"(the id "{0}" is that of the "{1}" in line {2}, too; give one of them another id)"},
+    {34139,
+     R"(the bars are flat, cylinders stand in the 3-D view alone; write aspect-3d-view="true" for the plot area)"},
 
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
