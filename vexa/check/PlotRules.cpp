@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "vexa/check/AttributeReading.h"
 #include "vexa/support/core/QuotedText.h"
@@ -18,6 +19,7 @@ constexpr int kTextForNumber = 34129;
 constexpr int kBeyondAxis = 34133;
 constexpr int kStackedAreas = 34134;
 constexpr int kFlatCylinders = 34139;
+constexpr int kTimesOfDay = 34140;
 constexpr double kFirstYear = 1500;  // numbers between these two, and no others, are taken for years
 constexpr double kLastYear = 2200;
 constexpr float kClip = 1;  // px that the clip of a chart leaves around the plot
@@ -151,6 +153,21 @@ void checkStacking(const VexaPlotArea& plot, ProblemList& problems) {
     }
 }
 
+/// Points of one day, one after the other in their series, which a date axis has one place for.
+void checkTimes(VexaPlotArea& plot, ProblemList& problems) {
+    if (plot.getDataKind(true) != ValueKind::Date) return;
+    const VexaDataPoint* before = nullptr;
+    forEachPoint(plot, [&](const VexaContainerObject&, const VexaDataPoint& point) {
+        const VexaDataPoint* const last = std::exchange(before, &point);
+        if (last == nullptr || last->getParent() != point.getParent()) return true;
+        const DateTimeEx day = last->getCategory().getDate();
+        const DateTimeEx next = point.getCategory().getDate();
+        if (day == next || day.dayNumber() != next.dayNumber()) return true;
+        problems.add(Severity::Hint, kTimesOfDay, {}, point.getPlace());
+        return false;
+    });
+}
+
 void checkShapes(VexaPlotArea& plot, ProblemList& problems) {
     if (plot.isView3DMode()) return;
     for (const auto& chart : plot.getCharts()) {
@@ -183,6 +200,7 @@ void checkPlotLayout(VexaPlotArea& plot, VexaRenderContext& context, ProblemList
     checkYears(plot, problems);
     checkStacking(plot, problems);
     checkShapes(plot, problems);
+    checkTimes(plot, problems);
     for (const bool category : {false, true}) checkReach(plot, category, problems);
     const SizeF size = plot.getAreaSize(context);
     if (size.width > 0 && size.height > 0) checkBars(plot, context, problems);

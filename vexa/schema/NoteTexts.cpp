@@ -400,7 +400,7 @@ What stands along an axis. A text that reads as a number is one, and so is a dat
 text. An empty text is no value.
 @42.5: a number
 @2024-05-01: a date
-@2024-05-01T14:30: a date and a time
+@2024-05-01T14:30: a date and a time, of which an axis counts the date alone
 @May: a text
 
 ## Step of an axis
@@ -416,10 +416,10 @@ Lengths of dashes and gaps in turn, with spaces or commas between them, or `none
 @none: a solid line
 
 ## Transform list
-Functions in the order in which they apply, as in SVG: `matrix`, `translate`, `scale`, `rotate`, `skewX`, `skewY`.
+Functions as in SVG, of which the last one applies first: `matrix`, `translate`, `scale`, `rotate`, `skewX`, `skewY`.
 @rotate(45): by 45 degrees, clockwise
 @rotate(45 0.5 0.5): the same around a point
-@translate(10 20) scale(2): moved, in units of twice the size
+@translate(10 20) scale(2): twice the size, then moved by 10 and 20
 @matrix(1 0 0 1 10 20): the six numbers of a matrix
 
 ## View box

@@ -207,6 +207,9 @@ constexpr Message kMessages[] = {
     {34138, R"(the id "{0}" is that of the "{1}" in line {2}, too; give one of them another id)"},
     {34139,
      R"(the bars are flat, cylinders stand in the 3-D view alone; write aspect-3d-view="true" for the plot area)"},
+    {34140,
+     R"(points of one day stand at one place, a date axis does not count the time of day; write hours as numbers, )"
+     R"(or data-type="text" for the "category-axis")"},
 
     // Pictures of pixels and PDF.
     {35000, R"(a page of {0} by {1} px cannot be drawn; give the chart a width and a height above 0)"},
